@@ -1,0 +1,466 @@
+#include "platform/vb/Conversion.h"
+
+#include "platform/vb/VbError.h"
+
+
+#include <cmath>
+#include <limits>
+
+namespace vb {
+
+namespace {
+
+const QDate kDateZero(1899, 12, 30);
+
+bool isBlank(QChar c) { return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QChar(0x3000); }
+
+// Reads [+|-] digits [,digits]* [.digits] [E|D [+|-] digits], blanks around allowed, also &H / &O.
+std::optional<double> parseNumberText(QStringView s)
+{
+    qsizetype i = 0, n = s.size();
+    while (i < n && isBlank(s[i]))
+        ++i;
+    while (n > i && isBlank(s[n - 1]))
+        --n;
+    if (i >= n)
+        return std::nullopt;
+    if (s[i] == QLatin1Char('&') && i + 1 < n) {
+        const QChar k = s[i + 1].toUpper();
+        int base = k == QLatin1Char('H') ? 16 : k == QLatin1Char('O') ? 8 : 0;
+        if (base == 0)
+            return std::nullopt;
+        bool ok = false;
+        const qulonglong u = s.mid(i + 2, n - i - 2).toULongLong(&ok, base);
+        if (!ok)
+            return std::nullopt;
+        // &H literals are 16 or 32 bit signed, as VB reads them.
+        if (u <= 0xFFFF && n - i - 2 <= 4)
+            return double(std::int16_t(std::uint16_t(u)));
+        if (u <= 0xFFFFFFFFull)
+            return double(std::int32_t(std::uint32_t(u)));
+        return std::nullopt;
+    }
+    QByteArray buf;
+    buf.reserve(n - i);
+    bool sign = false, digits = false, point = false, exp = false;
+    if (s[i] == QLatin1Char('+') || s[i] == QLatin1Char('-')) {
+        sign = true;
+        buf.append(char(s[i].unicode()));
+        ++i;
+    }
+    Q_UNUSED(sign);
+    for (; i < n; ++i) {
+        const QChar c = s[i];
+        if (c.isDigit() && c.unicode() < 128) {
+            buf.append(char(c.unicode()));
+            digits = true;
+        } else if (c == QLatin1Char(',') && digits && !point && !exp) {
+            continue;  // thousands separator
+        } else if (c == QLatin1Char('.') && !point && !exp) {
+            buf.append('.');
+            point = true;
+        } else if ((c == QLatin1Char('E') || c == QLatin1Char('e') || c == QLatin1Char('D') || c == QLatin1Char('d'))
+                   && digits && !exp) {
+            buf.append('e');
+            exp = true;
+            if (i + 1 < n && (s[i + 1] == QLatin1Char('+') || s[i + 1] == QLatin1Char('-')))
+                buf.append(char(s[++i].unicode()));
+            if (i + 1 >= n || !s[i + 1].isDigit())
+                return std::nullopt;
+        } else {
+            return std::nullopt;
+        }
+    }
+    if (!digits)
+        return std::nullopt;
+    bool ok = false;
+    const double d = buf.toDouble(&ok);
+    if (!ok || !std::isfinite(d))
+        return std::nullopt;
+    return d;
+}
+
+QString doubleToString(double d)
+{
+    if (d == 0)
+        return QStringLiteral("0");
+    // VB shows up to 15 significant digits, switching to exponent form as %G does.
+    QString s = QString::asprintf("%.15G", d);
+    const qsizetype e = s.indexOf(QLatin1Char('E'));
+    if (e >= 0) {
+        // 1.5E+020 style of the C library into VB's 1.5E+20
+        QString mant = s.left(e);
+        QString ex = s.mid(e + 1);
+        const QChar sgn = ex[0];
+        ex = ex.mid(1);
+        while (ex.size() > 2 && ex.startsWith(QLatin1Char('0')))
+            ex.remove(0, 1);
+        s = mant + QLatin1Char('E') + sgn + ex;
+    }
+    return s;
+}
+
+QString dateToString(const QDateTime& dt)
+{
+    const QDate d = dt.date();
+    const QTime t = dt.time();
+    const bool hasTime = t != QTime(0, 0);
+    if (IsDateZero(d) && hasTime)
+        return t.toString(QStringLiteral("H:mm:ss"));
+    if (!hasTime)
+        return d.toString(QStringLiteral("yyyy/MM/dd"));
+    return d.toString(QStringLiteral("yyyy/MM/dd")) + QLatin1Char(' ') + t.toString(QStringLiteral("H:mm:ss"));
+}
+
+double toDouble(const Variant& v)
+{
+    switch (v.Type()) {
+    case VarType::Empty: return 0;
+    case VarType::Null: throw VbError::InvalidUseOfNull();
+    case VarType::Integer: return v.integerValue();
+    case VarType::Long: return v.longValue();
+    case VarType::Double: return v.doubleValue();
+    case VarType::Boolean: return v.booleanValue() ? -1 : 0;
+    case VarType::Date: return DateToSerial(v.dateValue());
+    case VarType::String: {
+        const QString& s = v.stringValue();
+        if (auto d = parseNumberText(s))
+            return *d;
+        // VB's numeric conversion also accepts the words of a Boolean.
+        if (s.compare(QLatin1String("True"), Qt::CaseInsensitive) == 0)
+            return -1;
+        if (s.compare(QLatin1String("False"), Qt::CaseInsensitive) == 0)
+            return 0;
+        throw VbError::TypeMismatch();
+    }
+    }
+    throw VbError::TypeMismatch();
+}
+
+// Reads up to maxDigits decimal digits at s[i]; returns -1 when there is none.
+int readInt(QStringView s, qsizetype& i, int maxDigits)
+{
+    int value = 0, count = 0;
+    while (i < s.size() && count < maxDigits && s[i].unicode() >= '0' && s[i].unicode() <= '9') {
+        value = value * 10 + (s[i].unicode() - '0');
+        ++i;
+        ++count;
+    }
+    return count ? value : -1;
+}
+
+std::optional<QTime> parseTime(QStringView s)
+{
+    qsizetype i = 0;
+    const int h = readInt(s, i, 2);
+    if (h < 0 || i >= s.size() || s[i] != QLatin1Char(':'))
+        return std::nullopt;
+    ++i;
+    const int m = readInt(s, i, 2);
+    if (m < 0)
+        return std::nullopt;
+    int sec = 0;
+    if (i < s.size() && s[i] == QLatin1Char(':')) {
+        ++i;
+        sec = readInt(s, i, 2);
+        if (sec < 0)
+            return std::nullopt;
+    }
+    if (i != s.size())
+        return std::nullopt;
+    QTime t(h, m, sec);
+    if (!t.isValid())
+        return std::nullopt;
+    return t;
+}
+
+std::optional<QDate> parseDatePart(QStringView s)
+{
+    qsizetype i = 0;
+    const int y = readInt(s, i, 4);
+    if (y < 0 || i >= s.size())
+        return std::nullopt;
+    const qsizetype yearDigits = i;
+    const QChar sep = s[i];
+    const bool kanji = sep == QChar(0x5E74);  // 年
+    if (!kanji && sep != QLatin1Char('/') && sep != QLatin1Char('-') && sep != QLatin1Char('.'))
+        return std::nullopt;
+    ++i;
+    const int m = readInt(s, i, 2);
+    if (m < 0 || i >= s.size())
+        return std::nullopt;
+    if (kanji ? s[i] != QChar(0x6708) : s[i] != sep)  // 月
+        return std::nullopt;
+    ++i;
+    const int d = readInt(s, i, 2);
+    if (d < 0)
+        return std::nullopt;
+    if (kanji && i < s.size() && s[i] == QChar(0x65E5))  // 日
+        ++i;
+    if (i != s.size())
+        return std::nullopt;
+    int year = y;
+    if (yearDigits <= 2)
+        year += y < 30 ? 2000 : 1900;  // the system's two-digit year window
+    QDate date(year, m, d);
+    if (!date.isValid())
+        return std::nullopt;
+    return date;
+}
+
+} // namespace
+
+double RoundToEven(double d) { return std::nearbyint(d); }
+
+std::optional<double> ParseNumber(const QString& s) { return parseNumberText(s); }
+
+QDateTime MakeDate(int y, int m, int d, int h, int n, int s)
+{
+    return QDateTime(QDate(y, m, d), QTime(h, n, s), Qt::UTC);
+}
+
+bool IsDateZero(const QDate& d) { return d == kDateZero; }
+
+double DateToSerial(const QDateTime& dt)
+{
+    const double days = double(kDateZero.daysTo(dt.date()));
+    const double frac = dt.time().msecsSinceStartOfDay() / 86400000.0;
+    // OLE dates before zero keep the time as a positive fraction after the minus sign.
+    return days >= 0 ? days + frac : days - frac;
+}
+
+QDateTime SerialToDate(double serial)
+{
+    const double whole = std::trunc(serial);
+    const double frac = std::fabs(serial - whole);
+    const QDate d = kDateZero.addDays(qint64(whole));
+    const int ms = int(std::llround(frac * 86400.0) * 1000);
+    return QDateTime(d, QTime::fromMSecsSinceStartOfDay(ms % 86400000), Qt::UTC);
+}
+
+std::optional<QDateTime> ParseDate(const QString& text)
+{
+    QStringView s = QStringView(text).trimmed();
+    if (s.isEmpty())
+        return std::nullopt;
+    const qsizetype blank = s.indexOf(QLatin1Char(' '));
+    if (blank < 0) {
+        if (auto d = parseDatePart(s))
+            return QDateTime(*d, QTime(0, 0), Qt::UTC);
+        if (auto t = parseTime(s))
+            return QDateTime(kDateZero, *t, Qt::UTC);
+        return std::nullopt;
+    }
+    auto d = parseDatePart(s.left(blank));
+    auto t = parseTime(s.mid(blank + 1).trimmed());
+    if (!d || !t)
+        return std::nullopt;
+    return QDateTime(*d, *t, Qt::UTC);
+}
+
+std::int16_t CInt(const Variant& v)
+{
+    if (v.Type() == VarType::Integer)
+        return v.integerValue();
+    const double r = RoundToEven(toDouble(v));
+    if (r < -32768.0 || r > 32767.0)
+        throw VbError::Overflow();
+    return std::int16_t(r);
+}
+
+std::int32_t CLng(const Variant& v)
+{
+    if (v.Type() == VarType::Long)
+        return v.longValue();
+    const double r = RoundToEven(toDouble(v));
+    if (r < -2147483648.0 || r > 2147483647.0)
+        throw VbError::Overflow();
+    return std::int32_t(r);
+}
+
+double CDbl(const Variant& v) { return toDouble(v); }
+
+bool CBool(const Variant& v) { return toDouble(v) != 0; }
+
+QString CStr(const Variant& v)
+{
+    switch (v.Type()) {
+    case VarType::Empty: return QString();
+    case VarType::Null: throw VbError::InvalidUseOfNull();
+    case VarType::Integer: return QString::number(v.integerValue());
+    case VarType::Long: return QString::number(v.longValue());
+    case VarType::Double: return doubleToString(v.doubleValue());
+    case VarType::String: return v.stringValue();
+    case VarType::Date: return dateToString(v.dateValue());
+    case VarType::Boolean: return v.booleanValue() ? QStringLiteral("True") : QStringLiteral("False");
+    }
+    return {};
+}
+
+QDateTime CDate(const Variant& v)
+{
+    switch (v.Type()) {
+    case VarType::Null: throw VbError::InvalidUseOfNull();
+    case VarType::Date: return v.dateValue();
+    case VarType::String: {
+        if (auto d = ParseDate(v.stringValue()))
+            return *d;
+        if (auto n = parseNumberText(v.stringValue()))
+            return SerialToDate(*n);
+        throw VbError::TypeMismatch();
+    }
+    default: return SerialToDate(toDouble(v));
+    }
+}
+
+double Val(const QString& s)
+{
+    // Val skips blanks, tabs and line feeds anywhere, and stops at the first other character
+    // that cannot continue a number.
+    QString compact;
+    compact.reserve(s.size());
+    for (QChar c : s)
+        if (c != QLatin1Char(' ') && c != QLatin1Char('\t') && c != QLatin1Char('\n'))
+            compact.append(c);
+    qsizetype i = 0;
+    const qsizetype n = compact.size();
+    if (n >= 2 && compact[0] == QLatin1Char('&')) {
+        const QChar k = compact[1].toUpper();
+        const int base = k == QLatin1Char('H') ? 16 : k == QLatin1Char('O') ? 8 : 0;
+        if (base) {
+            qsizetype j = 2;
+            qint64 value = 0;
+            while (j < n) {
+                const int digit = QStringLiteral("0123456789ABCDEF").indexOf(compact[j].toUpper());
+                if (digit < 0 || digit >= base)
+                    break;
+                value = value * base + digit;
+                ++j;
+            }
+            return double(value);
+        }
+    }
+    QByteArray buf;
+    if (i < n && (compact[i] == QLatin1Char('+') || compact[i] == QLatin1Char('-')))
+        buf.append(char(compact[i++].unicode()));
+    bool digits = false, point = false;
+    for (; i < n; ++i) {
+        const ushort c = compact[i].unicode();
+        if (c >= '0' && c <= '9') {
+            buf.append(char(c));
+            digits = true;
+        } else if (c == '.' && !point) {
+            buf.append('.');
+            point = true;
+        } else if ((c == 'E' || c == 'e' || c == 'D' || c == 'd') && digits) {
+            QByteArray exp("e");
+            qsizetype j = i + 1;
+            if (j < n && (compact[j] == QLatin1Char('+') || compact[j] == QLatin1Char('-')))
+                exp.append(char(compact[j++].unicode()));
+            bool expDigits = false;
+            while (j < n && compact[j].unicode() >= '0' && compact[j].unicode() <= '9') {
+                exp.append(char(compact[j++].unicode()));
+                expDigits = true;
+            }
+            if (expDigits)
+                buf.append(exp);
+            break;
+        } else {
+            break;
+        }
+    }
+    if (!digits)
+        return 0;
+    const double d = buf.toDouble();
+    if (!std::isfinite(d))
+        throw VbError::Overflow();
+    return d;
+}
+
+bool IsNumeric(const Variant& v)
+{
+    switch (v.Type()) {
+    case VarType::Empty:
+    case VarType::Integer:
+    case VarType::Long:
+    case VarType::Double:
+    case VarType::Boolean: return true;
+    case VarType::String: return parseNumberText(v.stringValue()).has_value();
+    default: return false;
+    }
+}
+
+bool IsDate(const Variant& v)
+{
+    if (v.IsDate())
+        return true;
+    return v.IsString() && ParseDate(v.stringValue()).has_value();
+}
+
+QString LTrim(const QString& s)
+{
+    qsizetype i = 0;
+    while (i < s.size() && s[i] == QLatin1Char(' '))
+        ++i;
+    return s.mid(i);
+}
+
+QString RTrim(const QString& s)
+{
+    qsizetype n = s.size();
+    while (n > 0 && s[n - 1] == QLatin1Char(' '))
+        --n;
+    return s.left(n);
+}
+
+QString Trim(const QString& s) { return LTrim(RTrim(s)); }
+
+Variant Concat(const Variant& a, const Variant& b)
+{
+    if (a.IsNull() && b.IsNull())
+        return Variant::Null();
+    const QString sa = a.IsNull() ? QString() : CStr(a);
+    const QString sb = b.IsNull() ? QString() : CStr(b);
+    return Variant(sa + sb);
+}
+
+std::optional<bool> Equal(const Variant& a, const Variant& b)
+{
+    if (a.IsNull() || b.IsNull())
+        return std::nullopt;
+    const bool aNum = a.IsNumeric() || a.IsDate() || a.IsEmpty();
+    const bool bNum = b.IsNumeric() || b.IsDate() || b.IsEmpty();
+    if (a.IsString() && b.IsString())
+        return a.stringValue() == b.stringValue();
+    if (a.IsEmpty() && b.IsString())
+        return b.stringValue().isEmpty();
+    if (b.IsEmpty() && a.IsString())
+        return a.stringValue().isEmpty();
+    if (aNum && bNum)
+        return toDouble(a) == toDouble(b);
+    // a number against a text: the text is read as a number; text that is no number differs
+    const Variant& num = aNum ? a : b;
+    const Variant& str = aNum ? b : a;
+    // VB orders any number below any text that is no number, so the two differ.
+    if (auto d = parseNumberText(str.stringValue()))
+        return toDouble(num) == *d;
+    return false;
+}
+
+std::int16_t IntAdd(std::int16_t a, std::int16_t b)
+{
+    const int r = int(a) + int(b);
+    if (r < std::numeric_limits<std::int16_t>::min() || r > std::numeric_limits<std::int16_t>::max())
+        throw VbError::Overflow();
+    return std::int16_t(r);
+}
+
+std::int32_t LngAdd(std::int32_t a, std::int32_t b)
+{
+    const long long r = (long long)a + b;
+    if (r < std::numeric_limits<std::int32_t>::min() || r > std::numeric_limits<std::int32_t>::max())
+        throw VbError::Overflow();
+    return std::int32_t(r);
+}
+
+} // namespace vb
