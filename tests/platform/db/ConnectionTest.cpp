@@ -1,0 +1,131 @@
+#include "platform/db/Connection.h"
+#include "platform/db/EngineError.h"
+
+#include "support/TempLedger.h"
+
+#include <gtest/gtest.h>
+
+using db::Connection;
+using vb::VbError;
+
+namespace {
+
+long errorOf(Connection& c, const char* jet)
+{
+    try {
+        c.Execute(QString::fromUtf8(jet));
+    } catch (const VbError& e) {
+        return e.Number();
+    }
+    return 0;
+}
+
+TEST(Connection, OpensOnlyAnExistingLedger)
+{
+    TempDir dir;
+    Connection c;
+    try {
+        c.Open(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + dir.file(QStringLiteral("pcdb.mdb")));
+        FAIL() << "opened a missing file";
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.Number(), db::EngineError::Fail);
+        EXPECT_TRUE(e.Description().contains(QStringLiteral("見つかりません")));
+    }
+    EXPECT_EQ(c.State(), db::adStateClosed);
+    EXPECT_FALSE(QFile::exists(dir.file(QStringLiteral("pcdb.mdb")))) << "opening must not create the file";
+
+    dir.write(QStringLiteral("junk.mdb"), QByteArray("this is no database at all, just text").repeated(200));
+    try {
+        c.Open(QStringLiteral("Data Source=") + dir.file(QStringLiteral("junk.mdb")));
+        FAIL() << "opened a file that is no ledger";
+    } catch (const VbError& e) {
+        EXPECT_TRUE(e.Description().contains(QStringLiteral("認識できないデータベース形式"))) << e.what();
+    }
+    EXPECT_EQ(c.State(), db::adStateClosed);
+}
+
+TEST(Connection, ExecuteReportsTheEnginesRefusalsAsTheOriginalNumbered)
+{
+    TempLedger l;
+    Connection& c = l.connection();
+    EXPECT_EQ(c.Execute(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)")), 1);
+    EXPECT_EQ(errorOf(c, "INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"), db::EngineError::Fail) << "duplicate key";
+    EXPECT_EQ(errorOf(c, "INSERT INTO tbl_Computer_List (MainKey) VALUES (70000)"), db::EngineError::TypeMismatchInCriteria);
+    EXPECT_EQ(errorOf(c, "UPDATE tbl_Pclist SET tbl_Pclist.[Memory_Full] = 'abc' WHERE MainKey = 0"),
+              db::EngineError::TypeMismatchInCriteria);
+    EXPECT_EQ(errorOf(c, "UPDATE tbl_Computer_List SET tbl_Computer_List.[Leasing_StartDate] = '2005/02/31' WHERE MainKey = 1"),
+              db::EngineError::TypeMismatchInCriteria);
+    EXPECT_EQ(errorOf(c, "SELECT * FROM tbl_Nothing"), db::EngineError::TableNotFound);
+    EXPECT_EQ(errorOf(c, "SELECT NoSuchColumn FROM tbl_Pclist"), db::EngineError::MissingParameter);
+    EXPECT_EQ(errorOf(c, "SELEKT * FROM tbl_Pclist"), db::EngineError::SyntaxError);
+    EXPECT_EQ(errorOf(c, ""), db::EngineError::SyntaxError);
+    const QString longText(256, QLatin1Char('x'));
+    try {
+        c.Execute(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = '%1' WHERE MainKey = 0").arg(longText));
+        ADD_FAILURE() << "256 characters went into a text column";
+    } catch (const VbError& e) {
+        EXPECT_TRUE(e.Description().contains(QStringLiteral("小さすぎて"))) << e.what();
+    }
+    // a refused statement changes nothing and the connection goes on
+    EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List")), QStringLiteral("2"));
+    EXPECT_EQ(c.Execute(QStringLiteral("UPDATE tbl_Computer_List SET tbl_Computer_List.[Asset_Code] = 0 WHERE MainKey = 1")), 1);
+    EXPECT_EQ(l.value(QStringLiteral("SELECT Asset_Code FROM tbl_Computer_List WHERE MainKey = 1")), QStringLiteral("0"));
+}
+
+TEST(Connection, SameShapeWithOtherLiteralsReachesOtherRows)
+{
+    // statements of one shape share a prepared statement; each run must bind its own values
+    TempLedger l;
+    Connection& c = l.connection();
+    for (int k = 1; k <= 3; ++k)
+        c.Execute(QStringLiteral("INSERT INTO tbl_PClist (MainKey) VALUES (%1)").arg(k));
+    for (int k = 1; k <= 3; ++k)
+        c.Execute(QStringLiteral("UPDATE tbl_Pclist SET tbl_Pclist.[Workgroup] = 'W%1' WHERE MainKey = %1").arg(k));
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT MainKey, Workgroup FROM tbl_Pclist WHERE MainKey > 0 ORDER BY 1")),
+              (QStringList{QStringLiteral("1|W1"), QStringLiteral("2|W2"), QStringLiteral("3|W3")}));
+}
+
+TEST(Connection, TransactionsCommitRollBackAndNest)
+{
+    TempLedger l;
+    Connection& c = l.connection();
+    EXPECT_EQ(c.BeginTrans(), 1);
+    c.Execute(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
+    EXPECT_EQ(c.BeginTrans(), 2);
+    c.Execute(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (2)"));
+    c.RollbackTrans();
+    c.CommitTrans();
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT MainKey FROM tbl_Computer_List ORDER BY 1")),
+              (QStringList{QStringLiteral("0"), QStringLiteral("1")}));
+
+    c.BeginTrans();
+    c.Execute(QStringLiteral("DELETE * FROM tbl_Computer_List WHERE MainKey = 1"));
+    // a refused statement inside a transaction drops alone
+    EXPECT_THROW(c.Execute(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (0)")), VbError);
+    c.RollbackTrans();
+    EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List")), QStringLiteral("2"));
+    EXPECT_THROW(c.CommitTrans(), VbError);
+
+    {
+        db::Transaction t(c);
+        c.Execute(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (7)"));
+    }
+    EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey = 7")), QStringLiteral("0"))
+        << "a transaction guard that was not committed rolls back";
+}
+
+TEST(Connection, ClosedConnectionRefusesWork)
+{
+    TempLedger l;
+    Connection& c = l.connection();
+    c.Close();
+    EXPECT_EQ(c.State(), db::adStateClosed);
+    try {
+        c.Execute(QStringLiteral("SELECT * FROM tbl_Pclist"));
+        FAIL();
+    } catch (const VbError& e) {
+        EXPECT_EQ(e.Number(), 3709);
+    }
+}
+
+} // namespace

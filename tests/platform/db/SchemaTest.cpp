@@ -1,0 +1,135 @@
+#include "ledger/LedgerFile.h"
+
+#include "support/TempLedger.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList columnsOf(TempLedger& l, const QString& table)
+{
+    QStringList names;
+    for (const QString& r : l.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table)))
+        names << r;
+    return names;
+}
+
+TEST(Schema, HoldsTheTablesWithTheirExactColumns)
+{
+    TempLedger l;
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")).size(), 18);
+    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_ReadCsv")),
+              (QStringList{"Key", "Group", "Item", "SubItem", "Contents", "Unit", "Renewalday"}));
+    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_User")),
+              (QStringList{"User_Code", "User_Name", "User_Comment", "Available_flug", "kana", "Employee_SerialNumber",
+                           "Acount_Name", "logon_Password", "Section_Code", "Division_Code"}));
+    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_Mail_Management")),
+              (QStringList{"Key", "User_Code", "Conputer_Code", "beat_loginID", "beat_loginPassward", "Windows_UserName",
+                           "Mail_Address", "SMTP_IPAddress", "POP3_IPAddress", "Mailbox_AccountName", "Mailbox_Password"}));
+    const QStringList pc = columnsOf(l, QStringLiteral("tbl_Pclist"));
+    EXPECT_EQ(pc.size(), 116);
+    for (const char* name : {"CPU_3DNowEx", "DomeinName", "HostsName", "IPAddress_16num", "Memory_Used_unit", "HUB_Name",
+                             "CPU_L1_Trace_Cache_unit", "RASInstalled", "Start_Page"})
+        EXPECT_TRUE(pc.contains(QString::fromUtf8(name))) << name;
+    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_Computer_List")).size(), 21);
+}
+
+TEST(Schema, HoldsTheRowsOfCodeZeroAndAnUnsetComputer)
+{
+    TempLedger l;
+    for (const char* t : {"tbl_Section", "tbl_Division", "tbl_Location", "tbl_Manufacturer", "tbl_Model"})
+        EXPECT_EQ(l.rows(QStringLiteral("SELECT * FROM %1").arg(QString::fromUtf8(t))), QStringList{QStringLiteral("0|||0")}) << t;
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT * FROM tbl_User")), QStringList{QStringLiteral("0|||0|||||0|0")});
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, Deleted_Flug FROM tbl_Computer_List")),
+              QStringList{QStringLiteral("0|0|0|0|0|NULL")});
+    EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_PClist WHERE MainKey = 0")), QStringLiteral("1"));
+    l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
+    EXPECT_EQ(l.value(QStringLiteral("SELECT Deleted_Flug FROM tbl_Computer_List WHERE MainKey = 1")), QStringLiteral("0"))
+        << "a computer whose flag nobody writes counts as installed";
+}
+
+struct Refusal {
+    const char* name;
+    const char* sql;
+};
+
+TEST(Schema, RefusesWhatTheOriginalEngineRefused)
+{
+    TempLedger l;
+    l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
+    const Refusal refusals[] = {
+        {"letters in a long column", "UPDATE tbl_Pclist SET Memory_Full = 'abc' WHERE MainKey = 0"},
+        {"a fraction in a long column", "UPDATE tbl_Pclist SET Memory_Full = 2.5 WHERE MainKey = 0"},
+        {"70000 in a key", "INSERT INTO tbl_Computer_List (MainKey) VALUES (70000)"},
+        {"a duplicate key", "INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"},
+        {"a day that does not exist", "UPDATE tbl_Computer_List SET Leasing_StartDate = '2005/02/31' WHERE MainKey = 1"},
+        {"a month that does not exist", "UPDATE tbl_Computer_List SET Remove_Date = '2005/13/01' WHERE MainKey = 1"},
+        {"a date that is no date", "UPDATE tbl_Computer_List SET Leasing_EndDate = 'soon' WHERE MainKey = 1"},
+        {"256 characters of text", "UPDATE tbl_Pclist SET Computer_Name = printf('%.256c', 'x') WHERE MainKey = 0"},
+        {"a bad date in a licence", "INSERT INTO tbl_License_Dat (\"Key\", \"Update\") VALUES (1, '2005/2/30')"},
+        {"letters in a staging-free key", "INSERT INTO tbl_Mail_Management (\"Key\") VALUES ('A')"},
+    };
+    for (const Refusal& r : refusals)
+        EXPECT_THROW(l.exec(QString::fromUtf8(r.sql)), std::runtime_error) << r.name;
+
+    // what Jet took, SQLite takes too
+    l.exec(QStringLiteral("UPDATE tbl_Pclist SET Memory_Full = '512', CPU_FPU = '1', Computer_Name = 42 WHERE MainKey = 0"));
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT typeof(Memory_Full), Memory_Full, typeof(CPU_FPU), Computer_Name FROM tbl_Pclist")),
+              QStringList{QStringLiteral("integer|512|integer|42")});
+    l.exec(QStringLiteral("UPDATE tbl_ReadCsv SET Renewalday = printf('%.1000c', 'x')"));
+    l.exec(QStringLiteral("INSERT INTO tbl_ReadCsv (\"Key\", Renewalday) VALUES (printf('%.254c', 'k'), printf('%.1000c', 'r'))"));
+}
+
+TEST(Schema, StoresDatesInOneForm)
+{
+    TempLedger l;
+    struct {
+        const char* given;
+        const char* stored;
+    } const cases[] = {
+        {"2005/2/3", "2005/02/03"},
+        {"2005-02-03", "2005/02/03"},
+        {"2005/02/03 10:11:12", "2005/02/03 10:11:12"},
+        {"2005/2/3 9:05", "2005/02/03 09:05:00"},
+        {"2004/2/29", "2004/02/29"},
+    };
+    int key = 1;
+    for (const auto& c : cases) {
+        l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Leasing_StartDate) VALUES (%1, '%2')").arg(key).arg(QString::fromUtf8(c.given)));
+        EXPECT_EQ(l.value(QStringLiteral("SELECT Leasing_StartDate FROM tbl_Computer_List WHERE MainKey = %1").arg(key)),
+                  QString::fromUtf8(c.stored)) << c.given;
+        l.exec(QStringLiteral("UPDATE tbl_Computer_List SET Remove_Date = '%1' WHERE MainKey = %2").arg(QString::fromUtf8(c.given)).arg(key));
+        EXPECT_EQ(l.value(QStringLiteral("SELECT Remove_Date FROM tbl_Computer_List WHERE MainKey = %1").arg(key)),
+                  QString::fromUtf8(c.stored)) << c.given;
+        ++key;
+    }
+    // the "date text" columns keep what they were given
+    l.exec(QStringLiteral("UPDATE tbl_Pclist SET \"Update\" = '2005/2/3 10：11' WHERE MainKey = 0"));
+    EXPECT_EQ(l.value(QStringLiteral("SELECT \"Update\" FROM tbl_Pclist WHERE MainKey = 0")), QStringLiteral("2005/2/3 10：11"));
+}
+
+TEST(Schema, NamesAreCaseBlind)
+{
+    TempLedger l;
+    EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_PClist")), QStringLiteral("1"));
+    l.exec(QStringLiteral("UPDATE tbl_PClist SET ipaddress = '10.0.0.1', WorkGroup = 'W', CPU_3DNowEX = 1, Memory_Used_Unit = 'MB'"));
+    EXPECT_EQ(l.rows(QStringLiteral("SELECT IPAddress, Workgroup, CPU_3DNowEx, Memory_Used_unit FROM tbl_Pclist")),
+              QStringList{QStringLiteral("10.0.0.1|W|1|MB")});
+    l.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug) VALUES (1, 'Sato', '0')"));
+    EXPECT_EQ(l.value(QStringLiteral("SELECT User_Code FROM tbl_User WHERE User_Name = 'SATO' AND Available_Flug = '0'")), QStringLiteral("1"))
+        << "text compares without regard to case, as Jet compared it";
+}
+
+TEST(Schema, NewLedgerRefusesToOverwrite)
+{
+    TempDir d;
+    const QString path = d.file(QStringLiteral("x.mdb"));
+    EXPECT_EQ(ledger::CreateLedger(path), QString());
+    const QByteArray before = d.read(QStringLiteral("x.mdb"));
+    EXPECT_TRUE(before.startsWith("SQLite format 3"));
+    EXPECT_FALSE(ledger::CreateLedger(path).isEmpty());
+    EXPECT_EQ(d.read(QStringLiteral("x.mdb")), before);
+    EXPECT_FALSE(ledger::CreateLedger(d.file(QStringLiteral("no/such/folder/x.mdb"))).isEmpty());
+}
+
+} // namespace

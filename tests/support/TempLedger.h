@@ -1,0 +1,35 @@
+#pragma once
+
+#include "support/TempDir.h"
+
+#include "platform/db/Connection.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+// A fresh empty ledger (pcdb.mdb) in its own temporary folder, made the way fenwold-admin makes
+// one, with an open connection and plain-SQL helpers for assertions.
+class TempLedger {
+public:
+    TempLedger();
+    ~TempLedger();
+
+    const TempDir& dir() const { return m_dir; }
+    QString folder() const { return m_dir.path(); }
+    QString path() const { return m_dir.file(QStringLiteral("pcdb.mdb")); }
+    db::Connection& connection();
+    void closeConnection();
+
+    // SQLite text, straight to the file (no Jet rewrite); for setting up and checking.
+    void exec(const QString& sql);
+    // Every row of a query, each as its values' text joined by "|", Null as "NULL".
+    QStringList rows(const QString& sql);
+    // The first value of the first row as text ("NULL" for Null, "" when there is no row).
+    QString value(const QString& sql);
+
+private:
+    TempDir m_dir;
+    std::unique_ptr<db::Connection> m_conn;
+};
