@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+class QWidget;
+
+// Small value routines and conventions shared by the windows.
+namespace Mdl_Sub {
+
+// The focus highlight of a data-entry control: mode 1 pale cyan (128, 255, 255), mode 2 white,
+// any other mode nothing.
+void SetFocusColor(QWidget* control, std::int16_t mode);
+
+// The length of a text in bytes of the ANSI code page: full-width characters count two.
+int ByteLength(const QString& text);
+
+// The digits of a text read from the right into a number: "1,024 MB" gives 1024, "" gives 0.
+// A digit that would carry the result beyond 32 bits is skipped, the result standing as it was.
+std::int32_t DigitsToNumber(const QString& text);
+
+} // namespace Mdl_Sub

@@ -1,0 +1,426 @@
+#include "platform/ui/FlexGrid.h"
+
+#include "platform/ui/Twips.h"
+#include "platform/vb/VbError.h"
+
+#include <QAbstractTableModel>
+#include <QHeaderView>
+#include <QMouseEvent>
+#include <QStyledItemDelegate>
+#include <QTimer>
+
+namespace ui {
+
+namespace {
+
+Qt::Alignment toQt(int a)
+{
+    switch (a) {
+    case flexAlignLeftTop: return Qt::AlignLeft | Qt::AlignTop;
+    case flexAlignLeftCenter: return Qt::AlignLeft | Qt::AlignVCenter;
+    case flexAlignLeftBottom: return Qt::AlignLeft | Qt::AlignBottom;
+    case flexAlignCenterTop: return Qt::AlignHCenter | Qt::AlignTop;
+    case flexAlignCenterCenter: return Qt::AlignCenter;
+    case flexAlignCenterBottom: return Qt::AlignHCenter | Qt::AlignBottom;
+    case flexAlignRightTop: return Qt::AlignRight | Qt::AlignTop;
+    case flexAlignRightCenter: return Qt::AlignRight | Qt::AlignVCenter;
+    case flexAlignRightBottom: return Qt::AlignRight | Qt::AlignBottom;
+    default: return Qt::AlignLeft | Qt::AlignVCenter;
+    }
+}
+
+// The grid draws no focus frame and no highlight: the system paints its own selection.
+class PlainDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* p, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem o(option);
+        o.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
+        QStyledItemDelegate::paint(p, o, index);
+    }
+};
+
+const int kDefaultWidthTwips = 960;
+const int kRowHeightTwips = 285;
+
+} // namespace
+
+// The view's model: the grid's cells under its first fixed row and column, which the headers
+// show. It reads the grid's array directly and answers nothing outside the grid, so a view that
+// has not yet heard of a change never reads past the cells.
+class FlexGridModel : public QAbstractTableModel {
+public:
+    explicit FlexGridModel(FlexGrid* g) : QAbstractTableModel(g), m_g(g) {}
+
+    int headRows() const { return m_g->m_fixedRows > 0 && m_g->m_rows > 0 ? 1 : 0; }
+    int headCols() const { return m_g->m_fixedCols > 0 && m_g->m_cols > 0 ? 1 : 0; }
+
+    int rowCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : qMax(0, m_g->m_rows - headRows());
+    }
+    int columnCount(const QModelIndex& parent = {}) const override
+    {
+        return parent.isValid() ? 0 : qMax(0, m_g->m_cols - headCols());
+    }
+
+    QVariant cellData(int r, int c, int role) const
+    {
+        if (r < 0 || c < 0 || r >= m_g->m_rows || c >= m_g->m_cols)
+            return {};
+        const FlexGrid::Cell& cell = m_g->m_cells[size_t(m_g->index(r, c))];
+        switch (role) {
+        case Qt::DisplayRole: return cell.text;
+        case Qt::BackgroundRole:
+            if (cell.hasBack)
+                return QBrush(QColor::fromRgb(cell.back));
+            if (r < m_g->m_fixedRows || c < m_g->m_fixedCols)
+                return {};
+            return QBrush(Qt::white);
+        case Qt::TextAlignmentRole: return int(toQt(cell.align));
+        default: return {};
+        }
+    }
+
+    QVariant data(const QModelIndex& i, int role) const override
+    {
+        return cellData(i.row() + headRows(), i.column() + headCols(), role);
+    }
+
+    QVariant headerData(int section, Qt::Orientation o, int role) const override
+    {
+        if (o == Qt::Horizontal)
+            return headRows() ? cellData(0, section + headCols(), role) : QVariant();
+        return headCols() ? cellData(section + headRows(), 0, role) : QVariant();
+    }
+
+    void reset()
+    {
+        beginResetModel();
+        endResetModel();
+    }
+    void cellChanged(int r, int c)
+    {
+        const int mr = r - headRows(), mc = c - headCols();
+        if (mr < 0 && mc < 0)
+            return;
+        if (mr < 0)
+            Q_EMIT headerDataChanged(Qt::Horizontal, mc, mc);
+        else if (mc < 0)
+            Q_EMIT headerDataChanged(Qt::Vertical, mr, mr);
+        else
+            Q_EMIT dataChanged(index(mr, mc), index(mr, mc));
+    }
+
+private:
+    FlexGrid* m_g;
+};
+
+FlexGrid::FlexGrid(QWidget* parent) : QTableView(parent), m_model(new FlexGridModel(this))
+{
+    setModel(m_model);
+    setItemDelegate(new PlainDelegate(this));
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setWordWrap(false);
+    setCornerButtonEnabled(false);
+    for (QHeaderView* h : {horizontalHeader(), verticalHeader()}) {
+        h->setSectionResizeMode(QHeaderView::Fixed);
+        h->setMinimumSectionSize(0);
+        h->setHighlightSections(false);
+        h->setSectionsClickable(true);
+    }
+    verticalHeader()->setDefaultSectionSize(TwipsToPixels(kRowHeightTwips));
+    horizontalHeader()->setDefaultSectionSize(TwipsToPixels(kDefaultWidthTwips));
+    horizontalHeader()->setFixedHeight(TwipsToPixels(kRowHeightTwips));
+    connect(verticalHeader(), &QHeaderView::sectionPressed, this, [this](int section) {
+        m_row = section + m_model->headRows();
+        m_col = qMin(m_fixedCols, qMax(0, m_cols - 1));
+    });
+    connect(verticalHeader(), &QHeaderView::sectionClicked, this, [this](int) { Q_EMIT Click(); });
+    SetRows(2);
+    SetCols(2);
+}
+
+FlexGrid::~FlexGrid() = default;
+
+bool FlexGrid::deferred() const { return !m_visible || !m_redraw || !isVisible(); }
+
+void FlexGrid::structureChanged()
+{
+    if (m_dirtyStructure)
+        return;
+    m_dirtyStructure = true;
+    if (!deferred())
+        QTimer::singleShot(0, this, [this] { if (!deferred()) flush(); });
+}
+
+void FlexGrid::changed(int row, int col)
+{
+    if (m_dirtyStructure || m_dirtyData)
+        return;
+    if (deferred()) {
+        m_dirtyData = true;
+        return;
+    }
+    m_model->cellChanged(row, col);
+}
+
+void FlexGrid::flush()
+{
+    if (m_dirtyStructure) {
+        m_model->reset();
+        applyWidths();
+    } else if (m_dirtyData) {
+        const int rows = m_model->rowCount(), cols = m_model->columnCount();
+        if (rows > 0 && cols > 0)
+            Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(rows - 1, cols - 1));
+        if (cols > 0)
+            Q_EMIT m_model->headerDataChanged(Qt::Horizontal, 0, cols - 1);
+        if (rows > 0)
+            Q_EMIT m_model->headerDataChanged(Qt::Vertical, 0, rows - 1);
+    }
+    m_dirtyStructure = m_dirtyData = false;
+}
+
+void FlexGrid::resize(int rows, int cols)
+{
+    rows = qMax(0, rows);
+    cols = qMax(0, cols);
+    if (cols != m_cols) {
+        std::vector<Cell> cells(size_t(rows) * size_t(cols));
+        for (int r = 0; r < qMin(rows, m_rows); ++r)
+            for (int c = 0; c < qMin(cols, m_cols); ++c)
+                cells[size_t(r * cols + c)] = std::move(m_cells[size_t(index(r, c))]);
+        m_cells = std::move(cells);
+        m_widths.resize(size_t(cols), -1);
+    } else {
+        m_cells.resize(size_t(rows) * size_t(cols));
+    }
+    m_rows = rows;
+    m_cols = cols;
+    m_row = qBound(0, m_row, qMax(0, m_rows - 1));
+    m_col = qBound(0, m_col, qMax(0, m_cols - 1));
+    structureChanged();
+}
+
+void FlexGrid::SetRows(int rows)
+{
+    if (rows == m_rows)
+        return;
+    if (m_cells.capacity() < size_t(rows) * size_t(m_cols))
+        m_cells.reserve(qMax(size_t(rows) * size_t(m_cols), m_cells.capacity() * 2));
+    resize(rows, m_cols);
+}
+
+void FlexGrid::SetCols(int cols)
+{
+    if (cols != m_cols)
+        resize(m_rows, cols);
+}
+
+void FlexGrid::SetFixedRows(int n)
+{
+    m_fixedRows = qMax(0, n);
+    structureChanged();
+}
+
+void FlexGrid::SetFixedCols(int n)
+{
+    m_fixedCols = qMax(0, n);
+    structureChanged();
+}
+
+void FlexGrid::checkCell(int row, int col) const
+{
+    if (row < 0 || row >= m_rows)
+        throw vb::VbError(30009, QStringLiteral("Row の値が無効です。"));
+    if (col < 0 || col >= m_cols)
+        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+}
+
+void FlexGrid::SetRow(int row)
+{
+    if (row < 0 || row >= m_rows)
+        throw vb::VbError(30009, QStringLiteral("Row の値が無効です。"));
+    m_row = row;
+}
+
+void FlexGrid::SetCol(int col)
+{
+    if (col < 0 || col >= m_cols)
+        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+    m_col = col;
+}
+
+QString FlexGrid::TextMatrix(int row, int col) const
+{
+    checkCell(row, col);
+    return m_cells[size_t(index(row, col))].text;
+}
+
+void FlexGrid::SetTextMatrix(int row, int col, const QString& text)
+{
+    checkCell(row, col);
+    m_cells[size_t(index(row, col))].text = text;
+    changed(row, col);
+}
+
+void FlexGrid::SetCellBackColor(const QColor& colour)
+{
+    checkCell(m_row, m_col);
+    Cell& c = m_cells[size_t(index(m_row, m_col))];
+    c.back = colour.rgb();
+    c.hasBack = true;
+    changed(m_row, m_col);
+}
+
+void FlexGrid::SetCellAlignment(int alignment)
+{
+    checkCell(m_row, m_col);
+    m_cells[size_t(index(m_row, m_col))].align = static_cast<unsigned char>(alignment);
+    changed(m_row, m_col);
+}
+
+QColor FlexGrid::CellBackColorAt(int row, int col) const
+{
+    checkCell(row, col);
+    const Cell& c = m_cells[size_t(index(row, col))];
+    if (c.hasBack)
+        return QColor::fromRgb(c.back);
+    if (row < m_fixedRows || col < m_fixedCols)
+        return palette().color(QPalette::Button);
+    return QColor(Qt::white);
+}
+
+int FlexGrid::CellAlignmentAt(int row, int col) const
+{
+    checkCell(row, col);
+    return m_cells[size_t(index(row, col))].align;
+}
+
+int FlexGrid::ColWidth(int col) const
+{
+    if (col < 0 || col >= m_cols)
+        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+    const int w = m_widths[size_t(col)];
+    return w < 0 ? kDefaultWidthTwips : w;
+}
+
+void FlexGrid::SetColWidth(int col, int twips)
+{
+    if (col < 0 || col >= m_cols)
+        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+    m_widths[size_t(col)] = twips;
+    if (!deferred() && !m_dirtyStructure)
+        applyWidths();
+    else
+        structureChanged();
+}
+
+void FlexGrid::applyWidths()
+{
+    const int hc = m_model->headCols();
+    if (hc)
+        verticalHeader()->setFixedWidth(TwipsToPixels(ColWidth(0)));
+    verticalHeader()->setVisible(hc != 0);
+    horizontalHeader()->setVisible(m_model->headRows() != 0);
+    for (int c = hc; c < m_cols; ++c)
+        setColumnWidth(c - hc, TwipsToPixels(ColWidth(c)));
+}
+
+void FlexGrid::SetRedraw(bool on)
+{
+    m_redraw = on;
+    if (!deferred())
+        flush();
+}
+
+void FlexGrid::SetVisible(bool on)
+{
+    m_visible = on;
+    setVisible(on);
+    if (!deferred())
+        flush();
+}
+
+void FlexGrid::Clear()
+{
+    for (Cell& c : m_cells)
+        c = Cell{};
+    if (deferred())
+        m_dirtyData = true;
+    else {
+        m_dirtyData = true;
+        flush();
+    }
+}
+
+void FlexGrid::Move(int left, int top, int width, int height)
+{
+    setGeometry(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
+}
+
+QRect FlexGrid::CellRect(int row, int col) const
+{
+    const int mr = row - m_model->headRows(), mc = col - m_model->headCols();
+    if (mr < 0 || mc < 0)
+        return {};
+    return visualRect(m_model->index(mr, mc));
+}
+
+bool FlexGrid::cellAt(const QPoint& pos, int& row, int& col) const
+{
+    const QModelIndex i = indexAt(pos);
+    if (!i.isValid())
+        return false;
+    row = i.row() + m_model->headRows();
+    col = i.column() + m_model->headCols();
+    return true;
+}
+
+void FlexGrid::showEvent(QShowEvent* e)
+{
+    QTableView::showEvent(e);
+    if (!deferred())
+        flush();
+}
+
+void FlexGrid::paintEvent(QPaintEvent* e)
+{
+    ++m_paints;
+    QTableView::paintEvent(e);
+}
+
+void FlexGrid::mousePressEvent(QMouseEvent* e)
+{
+    int r, c;
+    m_pressed = e->button() == Qt::LeftButton && cellAt(e->position().toPoint(), r, c);
+    if (m_pressed) {
+        m_row = r;
+        m_col = c;
+    }
+    QTableView::mousePressEvent(e);
+}
+
+void FlexGrid::mouseReleaseEvent(QMouseEvent* e)
+{
+    QTableView::mouseReleaseEvent(e);
+    if (m_pressed && e->button() == Qt::LeftButton) {
+        m_pressed = false;
+        Q_EMIT Click();
+    }
+}
+
+void FlexGrid::mouseDoubleClickEvent(QMouseEvent* e)
+{
+    int r, c;
+    if (e->button() == Qt::LeftButton && cellAt(e->position().toPoint(), r, c)) {
+        m_row = r;
+        m_col = c;
+        Q_EMIT DblClick();
+    }
+}
+
+} // namespace ui
