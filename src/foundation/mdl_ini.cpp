@@ -37,4 +37,7 @@ bool IniWrite(const QString& section, const std::optional<QString>& key, const s
     }
 }
 
+// Filled in with the main list.
+std::int16_t LoadViewSettings() { return 0; }
+
 } // namespace mdl_ini

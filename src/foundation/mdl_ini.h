@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 // The settings file DB.ini beside the program: the two file operations every window uses.
@@ -21,5 +22,10 @@ inline bool IniWrite(const QString& section, const QString& key, const QString& 
 {
     return IniWrite(section, std::optional<QString>(key), std::optional<QString>(value));
 }
+
+// Loads the saved view numbered SectionNumber into the view globals. The result is a
+// 16-bit value nobody reads. A number key holding text that is no number raises the conversion
+// error to the caller.
+std::int16_t LoadViewSettings();
 
 } // namespace mdl_ini
