@@ -1,5 +1,6 @@
 #include "foundation/mdl_ini.h"
 
+#include "foundation/Mdl_gData.h"
 #include "platform/app/App.h"
 #include "platform/ini/PrivateProfile.h"
 #include "platform/ui/Dialogs.h"
@@ -37,7 +38,45 @@ bool IniWrite(const QString& section, const std::optional<QString>& key, const s
     }
 }
 
-// Filled in with the main list.
-std::int16_t LoadViewSettings() { return 0; }
+std::int16_t LoadViewSettings()
+{
+    using namespace Mdl_gData;
+    const QString section = QString::number(SectionNumber);
+    // Each key is read once to see whether it is there and once more to take it.
+    const auto number = [&section](const QString& key) -> std::int16_t {
+        if (IniRead(section, key) != QString())
+            return vb::CInt(vb::Variant(IniRead(section, key)));
+        return 0;
+    };
+    const auto text = [&section](const QString& key, QString& into) {
+        if (IniRead(section, key) != QString())
+            into = IniRead(section, key);
+    };
+
+    OptDel = number(QStringLiteral("OptDel"));
+    SelectNumber = number(QStringLiteral("SelectNumber"));
+
+    for (int i = 0; i <= 2; ++i) {
+        SortKeyName[i] = QString();
+        SortKeyCaption[i] = QString();
+    }
+    SelectedColumnCount = 0;
+    for (int i = 1; i <= ColumnCount; ++i)
+        SelectedColumns[i] = 0;
+
+    // a direction left out keeps what memory held
+    for (int i = 0; i <= 2; ++i) {
+        text(QStringLiteral("KeyName%1").arg(i), SortKeyName[i]);
+        text(QStringLiteral("KeyCaption%1").arg(i), SortKeyCaption[i]);
+        text(QStringLiteral("KeyASCDESC%1").arg(i), SortKeyDirection[i]);
+    }
+
+    SelectedColumnCount = number(QStringLiteral("MSFlexGrit_SelectNum"));
+    // Place 0 is never loaded: it stays 0, the row of the key column. A count beyond 256 runs
+    // off the end of SelectedColumns and raises error 9 to the caller.
+    for (int i = 1; i <= SelectedColumnCount; ++i)
+        SelectedColumns[i] = number(QStringLiteral("MSFlexGrit_Select%1").arg(i));
+    return 0;
+}
 
 } // namespace mdl_ini
