@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QStringList>
+
+// fenwold-admin read [--english] [--ledger PATH] FILE...
+//
+// Reads inventory files into a ledger without a window, each file a new computer, in the given
+// order, with the Japanese reader or with --english the English one. The ledger is PATH, or
+// pcdb.mdb beside the program. Prints one line per file (its new MainKey, or why it was
+// refused) and a summary to standard output. Returns 0 when every file was read, 2 when at
+// least one was refused, 1 on a usage error or a ledger that is missing or cannot be opened.
+int ReadCommand(const QStringList& args);

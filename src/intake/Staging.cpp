@@ -1,0 +1,163 @@
+#include "intake/Staging.h"
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_gData.h"
+#include "platform/db/Recordset.h"
+#include "platform/text/LineInput.h"
+#include "platform/vb/Conversion.h"
+#include "platform/vb/FixedArray.h"
+
+namespace Mdl_Access_mdb {
+
+using Mdl_gData::DbConnection;
+
+namespace {
+
+// The seven fields of one inventory line, in the file's order.
+enum CsvField { Key, Group, Item, SubItem, Contents, Unit, Renewalday, CsvFieldCount };
+
+const std::array<QStringView, CsvFieldCount> kFieldNames = {u"Key", u"Group", u"Item", u"SubItem",
+                                                            u"Contents", u"Unit", u"Renewalday"};
+
+// Splits a line the way the inventory tool's files are read: no quoting and no escape. Each of
+// the first six fields is cut off at the next comma; a field that finds no comma stays empty and
+// leaves the rest as it was. Whatever remains, commas included, is Renewalday; a line without
+// any comma therefore stages as seven empty fields.
+std::array<QString, CsvFieldCount> splitLine(const QString& line)
+{
+    std::array<QString, CsvFieldCount> f;
+    QStringView rest;
+    const qsizetype first = line.indexOf(QLatin1Char(','));
+    if (first >= 0) {
+        f[Key] = line.left(first);
+        rest = QStringView(line).mid(first + 1);
+    }
+    for (int i = Group; i <= Unit; ++i) {
+        const qsizetype comma = rest.indexOf(QLatin1Char(','));
+        if (comma >= 0) {
+            f[size_t(i)] = rest.left(comma).toString();
+            rest = rest.mid(comma + 1);
+        }
+    }
+    if (!line.isEmpty())
+        f[Renewalday] = rest.toString();
+    return f;
+}
+
+} // namespace
+
+bool CheckCsvHeader(const QString& line)
+{
+    // The original cut the line at each comma and compared the pieces with the six names, then
+    // the rest with "Renewalday" as a whole: that is the same as comparing the whole line.
+    return line == QLatin1String("Key,Group,Item,SubItem,Contents,Unit,Renewalday");
+}
+
+bool ReadCsvToStaging(const QString& path)
+{
+    // The name without its folder and its last four characters, and the last three characters.
+    // The original looked for the last backslash only; here either separator ends the folder,
+    // and a path of fewer than four characters gives an empty name instead of an error.
+    const QString withoutExtension = path.left(qMax<qsizetype>(0, path.size() - 4));
+    const qsizetype cut = qMax(withoutExtension.lastIndexOf(QLatin1Char('\\')), withoutExtension.lastIndexOf(QLatin1Char('/')));
+    Mdl_gData::CsvFileBaseName = withoutExtension.mid(cut + 1);
+    Mdl_gData::CsvFileExtension = path.right(3);
+
+    text::LineInput input(text::ReadWholeFile(path));
+    const QString header = input.next();
+    if (header.isEmpty() || !CheckCsvHeader(header))
+        return false;
+
+    db::Connection& c = DbConnection();
+    c.Execute(QStringLiteral("DELETE FROM tbl_ReadCsv"));
+
+    // Rows go in through the recordset, not through SQL text, so quotes in a value arrive as they
+    // are; sanitising waits until a value leaves staging.
+    db::Recordset rs;
+    rs.Open(QStringLiteral("SELECT * FROM tbl_ReadCsv"), c, db::adOpenStatic, db::adLockOptimistic);
+    std::array<int, CsvFieldCount> column{};
+    for (int i = 0; i < CsvFieldCount; ++i)
+        column[size_t(i)] = rs.FieldIndex(kFieldNames[size_t(i)]);
+    while (!input.atEnd()) {
+        std::array<QString, CsvFieldCount> f = splitLine(input.next());
+        rs.AddNew();
+        for (int i = Key; i <= Unit; ++i)
+            rs.Fields(column[size_t(i)]) = vb::Variant(f[size_t(i)].left(254));
+        rs.Fields(column[Renewalday]) = vb::Variant(std::move(f[Renewalday]));
+        rs.Update();
+    }
+    rs.Close();
+    return true;
+}
+
+void CopyStagingRows(const QString& selection, const QString& prefix, const QString& key, std::int16_t mode)
+{
+    // Errors are ignored statement by statement, as the original ran this routine.
+    db::Recordset rs;
+    try {
+        rs.Open(selection, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
+    } catch (const vb::VbError&) {
+        return;
+    }
+    if (rs.RecordCount() == 0) {
+        rs.Close();
+        return;
+    }
+    const int item = rs.FieldIndex(u"Item");
+    const int subItem = rs.FieldIndex(u"SubItem");
+    const int contents = rs.FieldIndex(u"Contents");
+    const int unit = rs.FieldIndex(u"Unit");
+    const int renewalday = rs.FieldIndex(u"Renewalday");
+
+    // Kept across rows: a value that cannot be read (a Null) leaves the previous row's in place.
+    QString vItem, vSubItem, vContents, vUnit, vRenewalday;
+    const auto read = [&rs](int index, QString& into) {
+        vb::ResumeNext([&] { into = SanitizeField(vb::CStr(rs.Value(index))); });
+    };
+    const QString q = QStringLiteral("'");
+    const QString sep = QStringLiteral("', '");
+    for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
+        read(item, vItem);
+        read(subItem, vSubItem);
+        read(contents, vContents);
+        read(unit, vUnit);
+        read(renewalday, vRenewalday);
+        QString values;
+        switch (mode) {
+        case 1: values = q + vItem + sep + vSubItem; break;
+        case 2: values = q + vSubItem + sep + vContents; break;
+        case 3: values = q + vSubItem + sep + vContents + sep + vUnit; break;
+        case 4: values = q + vItem + sep + vSubItem + sep + vContents + sep + vUnit; break;
+        case 5: values = q + vRenewalday + sep + vSubItem + sep + vContents + sep + vUnit; break;
+        case 6: values = q + vRenewalday + sep + vItem + sep + vSubItem + sep + vContents + sep + vUnit; break;
+        case 7: values = q + vRenewalday + sep + vSubItem + sep + vContents; break;
+        case 8: values = q + vRenewalday + sep + vItem + sep + vSubItem; break;
+        default: break;
+        }
+        if (!values.isEmpty())
+            values += sep + key + QStringLiteral("');");
+        ExecuteSql(prefix + values);
+    }
+    rs.Close();
+}
+
+// clang-format off
+const std::array<StagingCopy, 4> StagingCopies = {{
+    {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Soft' AND Item = 'Application')",
+     u"INSERT INTO tbl_ApplicationsList ( [Update], Application_Name, Application_Version, Application_Path, [Key] ) VALUES(", 5},
+    {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Device')",
+     u"INSERT INTO tbl_Device_Management ( [Update], Device_Category, Device_Name, Device_Provider, Device_Version, [Key] ) VALUES(", 6},
+    {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Hard' AND Item = 'Printer')",
+     u"INSERT INTO tbl_Printer_Management ( [Update], Printer_Name, PrinterPorts_Name, [Key] ) VALUES(", 7},
+    {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Environmental')",
+     u"INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, [Key] ) VALUES(", 8},
+}};
+// clang-format on
+
+void CopyAllStagingRows(const QString& key)
+{
+    for (const StagingCopy& copy : StagingCopies)
+        CopyStagingRows(copy.selection.toString(), copy.prefix.toString(), key, copy.mode);
+}
+
+} // namespace Mdl_Access_mdb

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QString>
+#include <QStringView>
+
+#include <array>
+#include <cstdint>
+
+// The staging routines of the database module: an inventory file is tested by its first line,
+// loaded line by line into tbl_ReadCsv, and its row-wise sections are copied from there into the
+// per-computer tables. Both intake paths (the bulk read and the review window) stand on them, and
+// both use the one shared connection.
+namespace Mdl_Access_mdb {
+
+// True only for the exact header "Key,Group,Item,SubItem,Contents,Unit,Renewalday" (case counts).
+bool CheckCsvHeader(const QString& line);
+
+// Tests one inventory file and loads it into tbl_ReadCsv; true means staging now holds this
+// file. Sets CsvFileBaseName and CsvFileExtension first, whatever follows. An empty first line
+// or another header gives false and leaves staging as it was. The file is code page 932; CR LF,
+// LF and CR all end a line. No handler: a file that cannot be opened or read raises its error
+// (53, 75 ...) to the caller, and rows staged before a failure midway stay.
+bool ReadCsvToStaging(const QString& path);
+
+// Runs a selection on the staging table and executes prefix + values + ");" for each row found,
+// the values in single quotes by mode (5 applications, 6 devices, 7 printers, 8 environment
+// variables; 1 to 4 have no caller), each through SanitizeField, the key last. A refused row is
+// skipped and the next goes on; a mode outside 1 to 8 gives statements that all fail.
+void CopyStagingRows(const QString& selection, const QString& prefix, const QString& key, std::int16_t mode);
+
+// One of the four copies that both intake paths make, in this order.
+struct StagingCopy {
+    QStringView selection;
+    QStringView prefix;
+    std::int16_t mode;
+};
+extern const std::array<StagingCopy, 4> StagingCopies;
+
+// The four copies for a computer, in order: applications, devices, printers, environment.
+void CopyAllStagingRows(const QString& key);
+
+} // namespace Mdl_Access_mdb
