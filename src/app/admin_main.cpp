@@ -1,5 +1,6 @@
 // fenwold-admin: the companion program for scripts and administrators. It works on a ledger
 // without a window: makes an empty ledger, reads inventory files, writes the main list to a file.
+#include "intake/ReadCommand.h"
 #include "ledger/LedgerFile.h"
 #include "platform/ui/ConsoleDialogs.h"
 
@@ -16,7 +17,8 @@ void printUsage(std::FILE* to)
     std::fputs("usage: fenwold-admin <command> [arguments]\n"
                "\n"
                "commands:\n"
-               "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n",
+               "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
+               "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n",
                to);
 }
 
@@ -51,6 +53,7 @@ int main(int argc, char** argv)
     const QString command = args.takeFirst();
     const std::pair<const char*, std::function<int(const QStringList&)>> commands[] = {
         {"new-ledger", newLedger},
+        {"read", ReadCommand},
     };
     for (const auto& [name, run] : commands)
         if (command == QLatin1String(name))
