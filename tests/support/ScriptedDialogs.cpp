@@ -22,6 +22,12 @@ ScriptedDialogs& ScriptedDialogs::answerFile(const std::optional<QString>& path)
     return *this;
 }
 
+ScriptedDialogs& ScriptedDialogs::answerPrinter(bool confirmed)
+{
+    m_printers.push_back(confirmed);
+    return *this;
+}
+
 std::vector<ScriptedDialogs::Call> ScriptedDialogs::messages() const
 {
     std::vector<Call> out;
@@ -42,7 +48,7 @@ QStringList ScriptedDialogs::messageTexts() const
 
 int ScriptedDialogs::MessageBox(const QString& prompt, int buttons, const QString& title)
 {
-    m_calls.push_back({Call::Message, prompt, title, buttons, {}});
+    m_calls.push_back({Call::Message, prompt, title, buttons, {}, {}});
     if (!m_messages.empty()) {
         const int r = m_messages.front();
         m_messages.pop_front();
@@ -59,7 +65,7 @@ int ScriptedDialogs::MessageBox(const QString& prompt, int buttons, const QStrin
 
 std::optional<QString> ScriptedDialogs::InputBox(const QString& prompt, const QString& title, const QString&)
 {
-    m_calls.push_back({Call::Input, prompt, title, 0, {}});
+    m_calls.push_back({Call::Input, prompt, title, 0, {}, {}});
     std::optional<QString> answer;
     if (!m_inputs.empty()) {
         answer = std::move(m_inputs.front());
@@ -70,11 +76,22 @@ std::optional<QString> ScriptedDialogs::InputBox(const QString& prompt, const QS
 
 std::optional<QString> ScriptedDialogs::FileDialog(const ui::FileDialogRequest& request)
 {
-    m_calls.push_back({Call::File, request.title, request.title, 0, request});
+    m_calls.push_back({Call::File, request.title, request.title, 0, request, {}});
     std::optional<QString> answer;
     if (!m_files.empty()) {
         answer = std::move(m_files.front());
         m_files.pop_front();
+    }
+    return answer;
+}
+
+bool ScriptedDialogs::PrinterDialog(const ui::PrinterDialogRequest& request)
+{
+    m_calls.push_back({Call::Printer, QString(), QString(), 0, {}, request});
+    bool answer = false;
+    if (!m_printers.empty()) {
+        answer = m_printers.front();
+        m_printers.pop_front();
     }
     return answer;
 }

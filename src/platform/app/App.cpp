@@ -2,11 +2,15 @@
 
 #include <QCoreApplication>
 
+#include <cstdio>
+#include <cstdlib>
+
 namespace app {
 
 namespace {
 QString g_path;
 QDateTime g_now;
+std::function<void(int)> g_end;
 } // namespace
 
 QString Path()
@@ -34,5 +38,18 @@ QDateTime Now()
 }
 
 void SetNow(const QDateTime& fixed) { g_now = fixed; }
+
+void End(int status)
+{
+    if (g_end) {
+        g_end(status);
+        return;
+    }
+    std::fflush(nullptr);
+    // static destructors still run: the one ledger connection is closed on the way out
+    std::exit(status);
+}
+
+void SetEndHook(std::function<void(int)> hook) { g_end = std::move(hook); }
 
 } // namespace app

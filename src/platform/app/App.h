@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <functional>
+
 // What VB's App object and clock gave the original: the program's folder, where pcdb.mdb and
 // DB.ini live, the program's title, and the time. Tests set their own folder and clock.
 namespace app {
@@ -17,5 +19,11 @@ QString Title();
 // The date and time now (local time as UTC-tagged wall clock, like vb dates); fixable in tests.
 QDateTime Now();
 void SetNow(const QDateTime& fixed);   // an invalid QDateTime returns to the real clock
+
+// VB's End: the program stops here with the status. Without a hook the process exits at once
+// (each statement of the ledger is already committed, so nothing written is lost); tests set a
+// hook that records the status and returns, and the caller then leaves its routine.
+void End(int status);
+void SetEndHook(std::function<void(int)> hook);   // an empty hook returns to the real end
 
 } // namespace app

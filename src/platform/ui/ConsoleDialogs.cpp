@@ -23,4 +23,6 @@ std::optional<QString> ConsoleDialogs::InputBox(const QString&, const QString&, 
 
 std::optional<QString> ConsoleDialogs::FileDialog(const FileDialogRequest&) { return std::nullopt; }
 
+bool ConsoleDialogs::PrinterDialog(const PrinterDialogRequest&) { return false; }
+
 } // namespace ui

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+class QPrinter;
+
 // The one seam through which every message box, input box and common dialog of the program is
 // shown. The program installs the Qt provider; tests install a scripted one that records what
 // was shown (texts, titles, buttons, icons) and answers as told; the companion program installs
@@ -45,6 +47,15 @@ struct FileDialogRequest {
     long flags = 0;
 };
 
+// What a printer dialog is asked to show: the print dialog, or its setup form (page and printer
+// choice) when the flags carry cdlPDPrintSetup. The chosen settings go into the printer.
+struct PrinterDialogRequest {
+    enum Kind { Print, PrintSetup };
+    Kind kind = Print;
+    long flags = 0;
+    QPrinter* printer = nullptr;   // not owned; null for the run's own default printer
+};
+
 class DialogProvider {
 public:
     virtual ~DialogProvider() = default;
@@ -54,6 +65,8 @@ public:
     virtual std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& defaultText) = 0;
     // The chosen path, or std::nullopt when cancelled.
     virtual std::optional<QString> FileDialog(const FileDialogRequest& request) = 0;
+    // True when the user confirmed, false when cancelled.
+    virtual bool PrinterDialog(const PrinterDialogRequest& request) = 0;
 };
 
 // The provider in use; the Qt one unless another was installed.

@@ -184,7 +184,7 @@ void FlexGrid::flush()
     m_dirtyStructure = m_dirtyData = false;
 }
 
-void FlexGrid::resize(int rows, int cols)
+void FlexGrid::resizeCells(int rows, int cols)
 {
     rows = qMax(0, rows);
     cols = qMax(0, cols);
@@ -211,13 +211,13 @@ void FlexGrid::SetRows(int rows)
         return;
     if (m_cells.capacity() < size_t(rows) * size_t(m_cols))
         m_cells.reserve(qMax(size_t(rows) * size_t(m_cols), m_cells.capacity() * 2));
-    resize(rows, m_cols);
+    resizeCells(rows, m_cols);
 }
 
 void FlexGrid::SetCols(int cols)
 {
     if (cols != m_cols)
-        resize(m_rows, cols);
+        resizeCells(m_rows, cols);
 }
 
 void FlexGrid::SetFixedRows(int n)
@@ -361,6 +361,11 @@ void FlexGrid::Move(int left, int top, int width, int height)
 {
     setGeometry(TwipsToPixels(left), TwipsToPixels(top), TwipsToPixels(width), TwipsToPixels(height));
 }
+
+int FlexGrid::Width() const { return PixelsToTwips(width()); }
+int FlexGrid::Height() const { return PixelsToTwips(height()); }
+void FlexGrid::SetWidth(int twips) { QTableView::resize(TwipsToPixels(twips), height()); }
+void FlexGrid::SetHeight(int twips) { QTableView::resize(width(), TwipsToPixels(twips)); }
 
 QRect FlexGrid::CellRect(int row, int col) const
 {

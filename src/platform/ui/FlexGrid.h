@@ -81,8 +81,12 @@ public:
     // Clears the text and the formatting of every cell; Rows and Cols stay.
     void Clear();
 
-    // Place and size in twips, as VB's Move.
+    // Place and size in twips, as VB's Move, Width and Height.
     void Move(int left, int top, int width, int height);
+    int Width() const;
+    int Height() const;
+    void SetWidth(int twips);
+    void SetHeight(int twips);
 
     // Where a cell stands on the viewport (for tests that click it); empty when out of sight.
     QRect CellRect(int row, int col) const;
@@ -111,7 +115,7 @@ private:
     };
     int index(int row, int col) const { return row * m_cols + col; }
     void checkCell(int row, int col) const;
-    void resize(int rows, int cols);
+    void resizeCells(int rows, int cols);
     void changed(int row, int col);
     void structureChanged();
     bool deferred() const;

@@ -4,6 +4,9 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPageSetupDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 
 namespace ui {
@@ -107,6 +110,30 @@ std::optional<QString> QtDialogs::FileDialog(const FileDialogRequest& r)
     if (dlg.exec() != QDialog::Accepted || dlg.selectedFiles().isEmpty())
         return std::nullopt;
     return dlg.selectedFiles().first();
+}
+
+} // namespace ui
+
+namespace ui {
+
+bool QtDialogs::PrinterDialog(const PrinterDialogRequest& r)
+{
+    // The run's default printer: its settings last from one dialog to the next, as the printer
+    // settings of the session did.
+    static QPrinter defaultPrinter(QPrinter::HighResolution);
+    QPrinter* printer = r.printer ? r.printer : &defaultPrinter;
+    if (r.kind == PrinterDialogRequest::PrintSetup) {
+        QPageSetupDialog dlg(printer, parentWindow());
+        return dlg.exec() == QDialog::Accepted;
+    }
+    QPrintDialog dlg(printer, parentWindow());
+    QAbstractPrintDialog::PrintDialogOptions options = dlg.options();
+    if (r.flags & 0x4)        // cdlPDNoSelection
+        options &= ~QAbstractPrintDialog::PrintSelection;
+    if (r.flags & 0x100000)   // cdlPDHidePrintToFile
+        options &= ~QAbstractPrintDialog::PrintToFile;
+    dlg.setOptions(options);
+    return dlg.exec() == QDialog::Accepted;
 }
 
 } // namespace ui

@@ -10,6 +10,7 @@ public:
     int MessageBox(const QString& prompt, int buttons, const QString& title) override;
     std::optional<QString> InputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
     std::optional<QString> FileDialog(const FileDialogRequest& request) override;
+    bool PrinterDialog(const PrinterDialogRequest& request) override;
 };
 
 // Turns a CommonDialog filter ("全て(*.*)|*.*|CSVファイル|*.csv") into Qt's name filters, one per

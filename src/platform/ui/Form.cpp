@@ -1,0 +1,165 @@
+#include "platform/ui/Form.h"
+
+#include "platform/ui/Dispatch.h"
+#include "platform/ui/Twips.h"
+#include "platform/vb/VbError.h"
+
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QPointer>
+
+#include <algorithm>
+#include <vector>
+
+namespace ui {
+
+namespace {
+std::vector<Form*>& loadedForms()
+{
+    static std::vector<Form*> forms;
+    return forms;
+}
+void forget(Form* f)
+{
+    auto& forms = loadedForms();
+    forms.erase(std::remove(forms.begin(), forms.end(), f), forms.end());
+}
+bool g_modalLoop = true;
+} // namespace
+
+QList<Form*> Forms()
+{
+    QList<Form*> out;
+    for (Form* f : loadedForms())
+        out << f;
+    return out;
+}
+
+void SetModalLoop(bool run) { g_modalLoop = run; }
+bool ModalLoop() { return g_modalLoop; }
+
+Form::Form(QWidget* parent) : QWidget(parent, Qt::Window) {}
+
+Form::~Form() { forget(this); }
+
+void Form::Load()
+{
+    if (m_loaded)
+        return;
+    m_loaded = true;
+    loadedForms().push_back(this);
+    Form_Load();
+}
+
+void Form::Show(int modal)
+{
+    Load();
+    if (modal == vbModal) {
+        if (isVisible())
+            throw vb::VbError(400, QStringLiteral("フォームは既に表示されています。モーダル表示はできません。"));
+        setWindowModality(Qt::ApplicationModal);
+    } else if (!isVisible()) {
+        setWindowModality(Qt::NonModal);
+    }
+    show();
+    raise();
+    activateWindow();
+    if (modal != vbModal || !g_modalLoop)
+        return;
+    QEventLoop loop;
+    QPointer<Form> self(this);
+    connect(this, &Form::Hidden, &loop, &QEventLoop::quit);
+    connect(this, &QObject::destroyed, &loop, &QEventLoop::quit);
+    if (isVisible())
+        loop.exec(QEventLoop::DialogExec);
+}
+
+void Form::Hide() { hide(); }
+
+bool Form::Unload(int unloadMode)
+{
+    if (m_unloading || m_unloaded)
+        return m_unloaded;
+    m_unloading = true;
+    int cancel = 0;
+    try {
+        Form_QueryUnload(cancel, unloadMode);
+        if (!cancel)
+            Form_Unload(cancel);
+    } catch (...) {
+        m_unloading = false;
+        throw;
+    }
+    m_unloading = false;
+    if (cancel)
+        return false;
+    m_unloaded = true;
+    forget(this);
+    hide();
+    Q_EMIT Unloaded();
+    deleteLater();
+    return true;
+}
+
+int Form::frameExtraWidth() const { return frameGeometry().width() - width(); }
+int Form::frameExtraHeight() const { return frameGeometry().height() - height(); }
+
+int Form::Left() const { return PixelsToTwips(x()); }
+int Form::Top() const { return PixelsToTwips(y()); }
+int Form::Width() const { return PixelsToTwips(frameGeometry().width()); }
+int Form::Height() const { return PixelsToTwips(frameGeometry().height()); }
+
+void Form::SetLeft(int twips) { move(TwipsToPixels(twips), y()); }
+void Form::SetTop(int twips) { move(x(), TwipsToPixels(twips)); }
+void Form::SetWidth(int twips) { resize(qMax(0, TwipsToPixels(twips) - frameExtraWidth()), height()); }
+void Form::SetHeight(int twips) { resize(width(), qMax(0, TwipsToPixels(twips) - frameExtraHeight())); }
+
+int Form::WindowState() const
+{
+    const Qt::WindowStates s = windowState();
+    if (s & Qt::WindowMinimized)
+        return vbMinimized;
+    if (s & Qt::WindowMaximized)
+        return vbMaximized;
+    return vbNormal;
+}
+
+void Form::SetWindowState(int state)
+{
+    switch (state) {
+    case vbMinimized: setWindowState(Qt::WindowMinimized); break;
+    case vbMaximized: setWindowState(Qt::WindowMaximized); break;
+    default: setWindowState(Qt::WindowNoState); break;
+    }
+}
+
+bool Form::event(QEvent* e)
+{
+    if (e->type() == QEvent::WindowDeactivate && IsLoaded())
+        Dispatch([this] { Form_LostFocus(); });
+    return QWidget::event(e);
+}
+
+void Form::closeEvent(QCloseEvent* e)
+{
+    // The close box asks Form_QueryUnload with mode 0; the form goes only through Unload.
+    e->ignore();
+    if (!m_unloaded)
+        Dispatch([this] { Unload(vbFormControlMenu); });
+}
+
+void Form::resizeEvent(QResizeEvent* e)
+{
+    QWidget::resizeEvent(e);
+    if (IsLoaded())
+        Dispatch([this] { Form_Resize(); });
+}
+
+void Form::hideEvent(QHideEvent* e)
+{
+    QWidget::hideEvent(e);
+    if (!e->spontaneous())
+        Q_EMIT Hidden();
+}
+
+} // namespace ui

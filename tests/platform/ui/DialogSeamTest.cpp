@@ -1,0 +1,154 @@
+#include "platform/app/App.h"
+#include "platform/ui/CommonDialog.h"
+#include "platform/ui/Dispatch.h"
+#include "platform/ui/Fonts.h"
+#include "platform/vb/VbError.h"
+
+#include "support/ScriptedDialogs.h"
+
+#include <QAction>
+#include <QFontInfo>
+#include <QFontMetrics>
+
+#include <gtest/gtest.h>
+
+using ui::CommonDialog;
+
+namespace {
+
+long errorOf(const std::function<void()>& f)
+{
+    try {
+        f();
+    } catch (const vb::VbError& e) {
+        return e.Number();
+    }
+    return 0;
+}
+
+TEST(CommonDialog, SaveDialogAsTheListExportAsksForIt)
+{
+    ScriptedDialogs dialogs;
+    CommonDialog cd;
+    cd.CancelError = true;
+    cd.DialogTitle = QStringLiteral("CSV書き出し");
+    cd.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
+    cd.FilterIndex = 2;
+    dialogs.answerFile(QStringLiteral("/home/kanri/一覧.csv"));
+    cd.ShowSave();
+    ASSERT_EQ(dialogs.calls().size(), 1u);
+    const ui::FileDialogRequest& r = dialogs.calls()[0].file;
+    EXPECT_EQ(r.kind, ui::FileDialogRequest::Save);
+    EXPECT_EQ(r.title, QStringLiteral("CSV書き出し"));
+    EXPECT_EQ(r.filter, QStringLiteral("全て(*.*)|*.*CSVファイル|*.csv"));
+    EXPECT_EQ(r.filterIndex, 2);
+    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
+    EXPECT_EQ(cd.FileTitle, QStringLiteral("一覧.csv"));
+
+    // cancel with CancelError is error 32755 and leaves FileName as it was
+    EXPECT_EQ(errorOf([&] { cd.ShowOpen(); }), vb::Err::CancelSelected);
+    EXPECT_EQ(dialogs.calls().back().file.kind, ui::FileDialogRequest::Open);
+    EXPECT_EQ(dialogs.calls().back().file.fileName, QStringLiteral("/home/kanri/一覧.csv"));
+    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
+    // without it a cancel is silent
+    cd.CancelError = false;
+    EXPECT_EQ(errorOf([&] { cd.ShowSave(); }), 0);
+    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
+}
+
+TEST(CommonDialog, PrinterDialogAndItsSetupForm)
+{
+    ScriptedDialogs dialogs;
+    CommonDialog cd;
+    // the page layout command: setup form, cancel is no error
+    cd.Flags = ui::cdlPDPrintSetup;
+    EXPECT_EQ(errorOf([&] { cd.ShowPrinter(); }), 0);
+    EXPECT_EQ(dialogs.calls().back().kind, ScriptedDialogs::Call::Printer);
+    EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::PrintSetup);
+    // the print command: the print dialog, whose cancel is a failure
+    cd.CancelError = true;
+    cd.Flags = 0x140004;
+    EXPECT_EQ(errorOf([&] { cd.ShowPrinter(); }), vb::Err::CancelSelected);
+    EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::Print);
+    EXPECT_EQ(dialogs.calls().back().printer.flags, 0x140004);
+    dialogs.answerPrinter(true);
+    EXPECT_EQ(errorOf([&] { cd.ShowPrinter(); }), 0);
+}
+
+class Fatal : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        app::SetEndHook([this](int status) { ended.push_back(status); });
+    }
+    void TearDown() override { app::SetEndHook({}); }
+    ScriptedDialogs dialogs;
+    std::vector<int> ended;
+};
+
+TEST_F(Fatal, UncaughtRunTimeErrorIsReportedAndEndsTheProgram)
+{
+    bool after = false;
+    ui::Dispatch([&] {
+        throw vb::VbError::InvalidUseOfNull();
+        after = true;
+    });
+    EXPECT_FALSE(after);
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    const auto m = dialogs.messages()[0];
+    EXPECT_EQ(m.prompt, QStringLiteral("実行時エラー '94':\r\n\r\nNull の使い方が不正です。"));
+    EXPECT_EQ(m.title, QStringLiteral("Fenwold"));
+    EXPECT_EQ(m.buttons, ui::vbCritical | ui::vbOKOnly);
+    ASSERT_EQ(ended.size(), 1u);
+    EXPECT_NE(ended[0], 0);
+
+    // a handler that catches its own error, or has none, ends nothing
+    dialogs.clear();
+    ended.clear();
+    ui::Dispatch([] {
+        try {
+            throw vb::VbError::Overflow();
+        } catch (const vb::VbError&) {
+        }
+    });
+    ui::Dispatch([] {});
+    EXPECT_TRUE(dialogs.calls().empty());
+    EXPECT_TRUE(ended.empty());
+}
+
+TEST_F(Fatal, EveryConnectedHandlerGoesThroughTheDispatcher)
+{
+    QObject context;
+    QAction action(&context);
+    int runs = 0;
+    ui::Connect(&action, &QAction::triggered, &context, [&] {
+        ++runs;
+        throw vb::VbError(3265, QStringLiteral("要求された名前または序数に対応する項目がコレクションで見つかりません。"));
+    });
+    action.trigger();
+    EXPECT_EQ(runs, 1);
+    ASSERT_EQ(dialogs.messageTexts().size(), 1);
+    EXPECT_EQ(dialogs.messageTexts()[0],
+              QStringLiteral("実行時エラー '3265':\r\n\r\n要求された名前または序数に対応する項目がコレクションで見つかりません。"));
+    EXPECT_EQ(ended.size(), 1u);
+
+    // a failure outside the run-time's errors ends the run the same way instead of aborting
+    ui::Dispatch([] { throw std::runtime_error("bad state"); });
+    ASSERT_EQ(dialogs.messageTexts().size(), 2);
+    EXPECT_TRUE(dialogs.messageTexts()[1].startsWith(QStringLiteral("実行時エラー '51':\r\n\r\n内部エラーです。")));
+    EXPECT_EQ(ended.size(), 2u);
+}
+
+TEST(Fonts, MsGothicShowsJapaneseWithTheIpaFont)
+{
+    ui::InstallFontSubstitutes();
+    for (const char* family : {"ＭＳ ゴシック", "MS Gothic"}) {
+        const QFont f(QString::fromUtf8(family), 9);
+        EXPECT_EQ(QFontInfo(f).family(), QStringLiteral("IPAGothic")) << family;
+    }
+    const QFontMetrics m(ui::MsGothic());
+    for (QChar c : QStringLiteral("ファイル編集管理表示設置場所Ｃドライブ全容量"))
+        EXPECT_TRUE(m.inFont(c)) << QString(c).toStdString();
+}
+
+} // namespace

@@ -1,0 +1,177 @@
+#include "platform/ui/FixedSize.h"
+#include "platform/ui/Form.h"
+#include "platform/ui/FormInstance.h"
+#include "platform/ui/Twips.h"
+#include "platform/vb/VbError.h"
+
+#include "support/ScriptedDialogs.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using ui::Form;
+
+namespace {
+
+// A form that counts its events and can refuse to close.
+class Probe : public Form {
+public:
+    static inline int created = 0;
+    Probe() { ++created; }
+    int loads = 0;
+    std::vector<int> queries;
+    int unloads = 0;
+    bool refuse = false;
+
+protected:
+    void Form_Load() override { ++loads; }
+    void Form_QueryUnload(int& cancel, int mode) override
+    {
+        queries.push_back(mode);
+        if (refuse)
+            cancel = 1;
+    }
+    void Form_Unload(int&) override { ++unloads; }
+};
+
+void flushDeletes() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+TEST(Form, OneInstanceCreatedOnFirstUseAndEndedByItsUnload)
+{
+    ui::FormInstance<Probe> frm;
+    Probe::created = 0;
+    EXPECT_EQ(frm.IfLoaded(), nullptr);
+    Probe& first = frm();
+    EXPECT_EQ(&frm(), &first);
+    EXPECT_EQ(Probe::created, 1);
+    EXPECT_EQ(first.loads, 1);
+    EXPECT_TRUE(ui::Forms().contains(&first));
+
+    QSignalSpy unloaded(&first, &Form::Unloaded);
+    QPointer<Probe> gone(&first);
+    first.Show();
+    EXPECT_TRUE(first.Unload());
+    EXPECT_EQ(first.queries, std::vector<int>{ui::vbFormCode});
+    EXPECT_EQ(first.unloads, 1);
+    EXPECT_EQ(unloaded.count(), 1);
+    EXPECT_FALSE(first.isVisible());
+    EXPECT_FALSE(ui::Forms().contains(&first));
+    EXPECT_EQ(frm.IfLoaded(), nullptr);
+    flushDeletes();
+    EXPECT_TRUE(gone.isNull()) << "an unloaded form is destroyed";
+
+    Probe& second = frm();
+    EXPECT_EQ(Probe::created, 2);
+    EXPECT_EQ(second.loads, 1) << "a fresh instance loads again";
+    second.Unload();
+    flushDeletes();
+}
+
+TEST(Form, CloseBoxAsksWithModeZeroAndMayBeRefused)
+{
+    auto* f = new Probe;
+    f->Load();
+    f->Show();
+    f->refuse = true;
+    f->close();
+    EXPECT_EQ(f->queries, std::vector<int>{ui::vbFormControlMenu});
+    EXPECT_TRUE(f->isVisible());
+    EXPECT_TRUE(f->IsLoaded());
+    EXPECT_EQ(f->unloads, 0);
+
+    f->refuse = false;
+    QPointer<Probe> gone(f);
+    f->close();
+    EXPECT_EQ(f->unloads, 1);
+    EXPECT_FALSE(f->isVisible());
+    flushDeletes();
+    EXPECT_TRUE(gone.isNull());
+}
+
+TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
+{
+    ui::FormInstance<Probe> frm;
+    frm().Show(ui::vbModal);
+    EXPECT_TRUE(frm().isVisible());
+    EXPECT_EQ(frm().windowModality(), Qt::ApplicationModal);
+    // a second modal Show of a shown window is refused as VB refused it
+    try {
+        frm().Show(ui::vbModal);
+        ADD_FAILURE() << "no error 400";
+    } catch (const vb::VbError& e) {
+        EXPECT_EQ(e.Number(), 400);
+    }
+    frm().Unload();
+    flushDeletes();
+
+    frm().Show(ui::vbModeless);
+    EXPECT_EQ(frm().windowModality(), Qt::NonModal);
+    frm().Unload();
+    flushDeletes();
+}
+
+TEST(Form, ModalWindowInTheProgramWaitsUntilItGoes)
+{
+    ui::SetModalLoop(true);
+    ui::FormInstance<Probe> frm;
+    Probe& f = frm();
+    bool waited = false;
+    QTimer::singleShot(0, &f, [&] {
+        waited = f.isVisible();
+        f.Unload();
+    });
+    f.Show(ui::vbModal);
+    ui::SetModalLoop(false);
+    EXPECT_TRUE(waited) << "Show returned only after the window was unloaded";
+    EXPECT_EQ(frm.IfLoaded(), nullptr);
+    flushDeletes();
+}
+
+TEST(Form, PlaceAndSizeInTwips)
+{
+    Form f;
+    f.SetWidth(6000);
+    f.SetHeight(4500);
+    f.SetLeft(1500);
+    f.SetTop(750);
+    EXPECT_EQ(f.geometry(), QRect(ui::TwipsToPixels(1500), ui::TwipsToPixels(750), ui::TwipsToPixels(6000), ui::TwipsToPixels(4500)));
+    EXPECT_EQ(f.Width(), ui::PixelsToTwips(ui::TwipsToPixels(6000)));
+    EXPECT_EQ(f.Left(), 1500);
+    EXPECT_EQ(f.WindowState(), ui::vbNormal);
+}
+
+TEST(FixedSize, CentresAtLoadAndKeepsItsSize)
+{
+    auto* f = new Form;
+    f->Load();
+    ui::FixedSize::Apply(*f, 5940, 7020);
+    const QSize screen = QGuiApplication::primaryScreen()->geometry().size();
+    EXPECT_EQ(f->Width(), 5940);
+    EXPECT_EQ(f->Height(), 7020);
+    EXPECT_EQ(f->Left(), ui::PixelsToTwips(ui::TwipsToPixels((ui::PixelsToTwips(screen.width()) - 5940) / 2)));
+    EXPECT_EQ(f->Top(), ui::PixelsToTwips(ui::TwipsToPixels((ui::PixelsToTwips(screen.height()) - 7020) / 2)));
+    f->show();
+    QCoreApplication::processEvents();
+
+    f->resize(200, 100);
+    EXPECT_EQ(f->Width(), 5940) << "a resize is undone";
+    EXPECT_EQ(f->Height(), 7020);
+
+    f->showMaximized();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(f->WindowState(), ui::vbNormal) << "maximise goes back to normal";
+    EXPECT_EQ(f->Width(), 5940);
+    EXPECT_EQ(f->Height(), 7020);
+
+    f->showMinimized();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(f->WindowState(), ui::vbMinimized) << "a minimised window is left alone";
+    f->Unload();
+    flushDeletes();
+}
+
+} // namespace
