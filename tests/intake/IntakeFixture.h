@@ -1,0 +1,62 @@
+#pragma once
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_gData.h"
+#include "platform/app/App.h"
+
+#include "support/ScriptedDialogs.h"
+#include "support/TempLedger.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <utility>
+#include <vector>
+
+inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
+
+inline QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
+
+// Field and expected stored text, "NULL" for Null.
+using FieldValues = std::vector<std::pair<QString, QString>>;
+
+// Compares the fields of one computer's row with a message per field.
+inline void ExpectRow(TempLedger& ledger, const QString& table, int key, const FieldValues& expected)
+{
+    QStringList names;
+    for (const auto& [field, value] : expected)
+        names << QLatin1Char('"') + field + QLatin1Char('"');
+    const QStringList rows = ledger.rows(QStringLiteral("SELECT %1 FROM %2 WHERE MainKey = %3").arg(names.join(QLatin1Char(',')), table).arg(key));
+    ASSERT_EQ(rows.size(), 1) << table.toStdString() << " has no row " << key;
+    const QStringList cells = rows.first().split(QLatin1Char('|'));
+    ASSERT_EQ(cells.size(), qsizetype(expected.size()));
+    for (size_t i = 0; i < expected.size(); ++i)
+        EXPECT_EQ(cells[qsizetype(i)], expected[i].second) << table.toStdString() << "." << expected[i].first.toStdString();
+}
+
+// A fresh ledger beside a program folder of its own, connected as the program connects it.
+class IntakeFixture : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Mdl_gData::Reset();
+        app::SetPath(ledger.folder());
+        ASSERT_TRUE(Mdl_Access_mdb::ConnectDatabase());
+    }
+    void TearDown() override
+    {
+        Mdl_Access_mdb::DisconnectDatabase();
+        Mdl_gData::Reset();
+        app::SetPath(QString());
+    }
+    QStringList staging() { return ledger.rows(QStringLiteral("SELECT * FROM tbl_ReadCsv ORDER BY rowid")); }
+    int count(const QString& table, const QString& where = QStringLiteral("1"))
+    {
+        return ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
+    }
+
+    TempLedger ledger;
+    ScriptedDialogs dialogs;
+};

@@ -1,0 +1,162 @@
+#include "intake/InventoryFieldMap.h"
+
+#include "IntakeFixture.h"
+
+#include <QSet>
+
+namespace {
+
+// The statements of tests/data/jet_statements.txt under their "# " headings.
+QStringList Section(const QString& heading)
+{
+    static const QStringList lines = QString::fromUtf8(ReadTestData(QStringLiteral("jet_statements.txt"))).split(QLatin1Char('\n'));
+    QStringList out;
+    bool inside = false;
+    for (const QString& line : lines) {
+        if (line.startsWith(QLatin1String("# "))) {
+            inside = line.mid(2) == heading;
+            continue;
+        }
+        if (inside && !line.isEmpty())
+            out << line;
+    }
+    EXPECT_FALSE(out.isEmpty()) << "no section " << heading.toStdString();
+    return out;
+}
+
+const QString kJapaneseLookups = QStringLiteral("inventory field map, Japanese lookups (bulk read and review window)");
+const QString kEnglishLookups = QStringLiteral("inventory field map, English lookups");
+const QString kBulkUpdates = QStringLiteral("inventory field map, UPDATEs of the bulk read");
+const QString kMissingRecord = QStringLiteral("bulk read: a row whose record is missing writes an empty text or 0");
+const QString kNewRecord = QStringLiteral("new record (Mnu_AddNew)");
+
+TEST(InventoryFieldMap, EveryLookupIsAStatementOfTheSystemAndEveryOneIsAsked)
+{
+    const QStringList japanese = Section(kJapaneseLookups);
+    const QStringList english = Section(kEnglishLookups);
+    QSet<QString> asked;
+    for (const InventoryFieldRow& row : InventoryFieldMap()) {
+        for (FieldMapPath path : {FieldMapPath::BulkRead, FieldMapPath::Review}) {
+            const QString ja = FieldLookupSql(row.selection(InventoryLanguage::Japanese, path));
+            EXPECT_TRUE(japanese.contains(ja)) << "row " << row.row << ": " << ja.toStdString();
+            asked << ja;
+        }
+        // the review knows Japanese keywords only
+        const QString en = FieldLookupSql(row.selection(InventoryLanguage::English, FieldMapPath::BulkRead));
+        EXPECT_TRUE(japanese.contains(en) || english.contains(en)) << "row " << row.row << ": " << en.toStdString();
+        asked << en;
+    }
+    for (const QString& line : japanese + english)
+        EXPECT_TRUE(asked.contains(line)) << "never asked: " << line.toStdString();
+}
+
+// The bulk read's UPDATEs of the walk for key 5, each split at its value: what stands before and
+// after it must match the system's statements line by line, in order. The five codes follow row
+// 1; those the new-record command shares stand in its own section.
+TEST(InventoryFieldMap, BulkReadStatementsAreTheSystemsInWalkingOrder)
+{
+    const QChar mark(0x0001);
+    struct Frame {
+        QString before, after;
+        int row;
+    };
+    std::vector<Frame> frames;
+    for (const InventoryFieldRow& row : InventoryFieldMap()) {
+        if (row.bulkSkips)
+            continue;
+        for (const QString& sql : BulkReadStatements(row, mark, QStringLiteral("5")))
+            frames.push_back({sql.section(mark, 0, 0), sql.section(mark, 1), row.row});
+        if (row.row == 1) {
+            for (const char* code : {"Location_Code", "User_Code", "Manufacturer_Code", "Model_Code", "Asset_Code"})
+                frames.push_back({QStringLiteral("UPDATE tbl_Computer_List SET tbl_Computer_List.[%1] = 0 WHERE MainKey = 5").arg(QLatin1String(code)),
+                                  QString(), 1});
+        }
+    }
+    const QStringList updates = Section(kBulkUpdates);
+    const QStringList newRecord = Section(kNewRecord);
+    qsizetype at = 0;
+    for (const Frame& f : frames) {
+        if (f.after.isEmpty() && newRecord.contains(f.before) && !updates.contains(f.before))
+            continue;
+        ASSERT_LT(at, updates.size()) << "row " << f.row << " has no statement";
+        const QString& line = updates[at++];
+        EXPECT_TRUE(line.startsWith(f.before) && line.endsWith(f.after) && line.size() >= f.before.size() + f.after.size())
+            << "row " << f.row << "\n  expected " << QString(f.before + QStringLiteral("…") + f.after).toStdString() << "\n  system   "
+            << line.toStdString();
+    }
+    EXPECT_EQ(at, updates.size());
+
+    // with no record found, every row still writes: an empty text, 0 for a number, "" for the key
+    const Mdl_Access_mdb::FirstRow none;
+    QStringList written;
+    for (const InventoryFieldRow& row : InventoryFieldMap())
+        written << BulkReadStatements(row, BulkReadValue(row, InventoryLanguage::Japanese, none), QStringLiteral("5"));
+    for (const QString& line : Section(kMissingRecord))
+        EXPECT_TRUE(written.contains(line)) << line.toStdString();
+}
+
+TEST(InventoryFieldMap, ValuesAreConvertedByKind)
+{
+    const auto& map = InventoryFieldMap();
+    const auto rowOf = [&](int n) -> const InventoryFieldRow& { return map[size_t(n - 1)]; };
+    struct Case {
+        int row;
+        int position;
+        QString value;
+        QString written;
+    };
+    const QString longText = QStringLiteral("あ").repeated(300);
+    const std::vector<Case> cases = {
+        {34, 4, QStringLiteral("2.6"), QStringLiteral("3")},          // number: to the nearest whole
+        {34, 4, QStringLiteral("2.5"), QStringLiteral("2")},          // a half to the even one
+        {34, 4, QStringLiteral("3.5"), QStringLiteral("4")},
+        {34, 4, QStringLiteral("-7"), QStringLiteral("-7")},
+        {7, 4, QStringLiteral("512MB"), QStringLiteral("0")},         // no number: 0
+        {7, 4, QString(), QStringLiteral("0")},
+        {7, 4, QStringLiteral("3000000000"), QStringLiteral("0")},    // past 32 bits: 0
+        {42, 4, QString(), QStringLiteral("0")},                      // guarded
+        {42, 4, QStringLiteral("16"), QStringLiteral("16")},
+        {53, 4, QStringLiteral("TRUE"), QStringLiteral("1")},         // flag
+        {53, 4, QStringLiteral("1"), QStringLiteral("1")},
+        {53, 4, QStringLiteral("True"), QStringLiteral("0")},
+        {53, 4, QStringLiteral("yes"), QStringLiteral("0")},
+        {99, 5, QStringLiteral("True"), QStringLiteral("1")},         // setting flag
+        {99, 5, QStringLiteral("1"), QStringLiteral("1")},
+        {99, 5, QStringLiteral("TRUE"), QStringLiteral("0")},
+        {4, 4, QStringLiteral("192.168.0.1"), QStringLiteral("C0A80001")},
+        {4, 4, QStringLiteral("999.1.1.1"), QStringLiteral("FFFFFFFF")},
+        {4, 4, QString(), QString()},
+        {1, 4, longText, longText.left(255)},                          // text: 255 characters
+        {5, 3, longText, longText.left(255)},                          // date
+        {8, 5, QStringLiteral(" KB "), QStringLiteral(" KB ")},       // unit: as it stands
+    };
+    for (const Case& c : cases) {
+        Mdl_Access_mdb::FirstRow record;
+        record[size_t(c.position)] = c.value;
+        EXPECT_EQ(BulkReadValue(rowOf(c.row), InventoryLanguage::Japanese, record), c.written)
+            << "row " << c.row << " value " << c.value.toStdString();
+    }
+
+    // the English creation time is the Renewalday of the first Windows record
+    Mdl_Access_mdb::FirstRow windows;
+    windows[3] = QStringLiteral("Version");
+    windows[6] = QStringLiteral("2006/01/15 09：05：00");
+    EXPECT_EQ(BulkReadValue(rowOf(5), InventoryLanguage::English, windows), windows[6]);
+    EXPECT_EQ(BulkReadValue(rowOf(5), InventoryLanguage::Japanese, windows), QStringLiteral("Version"));
+}
+
+TEST(InventoryFieldMap, TheReviewGridKeepsItsOwnFormOfRows51And66And97)
+{
+    const auto& map = InventoryFieldMap();
+    for (size_t i = 0; i < map.size(); ++i)
+        ASSERT_EQ(map[i].row, int(i + 1));
+    EXPECT_EQ(map[50].writtenField(FieldMapPath::Review), QStringLiteral("CPU_L3_Cache_unit"));
+    EXPECT_EQ(map[50].writtenField(FieldMapPath::BulkRead), QStringLiteral("CPU_L1_Trace_Cache_unit"));
+    EXPECT_EQ(map[65].caption, QStringLiteral("CPU MCA"));
+    EXPECT_EQ(map[65].writtenField(FieldMapPath::Review), QStringLiteral("CPU_PGE"));
+    EXPECT_EQ(map[65].selection(InventoryLanguage::Japanese, FieldMapPath::Review).secondValue, QStringLiteral("PGE"));
+    EXPECT_EQ(map[65].selection(InventoryLanguage::Japanese, FieldMapPath::BulkRead).secondValue, QStringLiteral("MCA"));
+    EXPECT_EQ(map[96].field, map[95].field);
+}
+
+} // namespace

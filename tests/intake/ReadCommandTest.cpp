@@ -1,0 +1,145 @@
+// fenwold-admin read, run as a process the way scripts run it.
+#include "IntakeFixture.h"
+
+#include "TestPaths.h"
+
+#include <QFile>
+#include <QProcess>
+
+namespace {
+
+struct AdminRun {
+    int exitCode = -1;
+    QStringList out;
+    QString err;
+};
+
+AdminRun Admin(const QStringList& args, const QString& program = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"))
+{
+    QProcess p;
+    p.start(program, args);
+    AdminRun r;
+    if (!p.waitForFinished(60000)) {
+        ADD_FAILURE() << "fenwold-admin did not finish";
+        return r;
+    }
+    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    r.out = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    r.err = QString::fromUtf8(p.readAllStandardError());
+    return r;
+}
+
+class ReadCommand : public ::testing::Test {
+protected:
+    int count(const QString& table, const QString& where = QStringLiteral("1"))
+    {
+        return ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
+    }
+    TempLedger ledger;
+};
+
+TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
+{
+    const QString ja = Inventory(QStringLiteral("ja_pc01.csv"));
+    const QString caseHeader = Inventory(QStringLiteral("bad_header_case.csv"));
+    AdminRun r = Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path(), ja, caseHeader, ja});
+    EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
+    EXPECT_EQ(r.out, (QStringList{ja + QStringLiteral(": MainKey 1"),
+                                  caseHeader + QStringLiteral(": refused, the first line is not Key,Group,Item,SubItem,Contents,Unit,Renewalday"),
+                                  ja + QStringLiteral(": MainKey 2"), QStringLiteral("2 of 3 files read, 1 refused")}));
+
+    // the second run goes on from the highest key, with the English reader
+    const QString en = Inventory(QStringLiteral("en_pc02.csv"));
+    r = Admin({QStringLiteral("read"), QStringLiteral("--english"), QStringLiteral("--ledger"), ledger.path(), en});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, (QStringList{en + QStringLiteral(": MainKey 3"), QStringLiteral("1 of 1 files read, 0 refused")}));
+    EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
+
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, Asset_Code, "
+                                         "Type_Number, Sereals_Number, \"Update\", Deleted_Flug FROM tbl_Computer_List ORDER BY MainKey")),
+              (QStringList{QStringLiteral("0|0|0|0|0|NULL|NULL|NULL|NULL|NULL"),
+                           QStringLiteral("1|0|0|0|0|0|PC-MY26XEZ7|5X0123456|2005/12/04 10：30：15|0"),
+                           QStringLiteral("2|0|0|0|0|0|PC-MY26XEZ7|5X0123456|2005/12/04 10：30：15|0"),
+                           QStringLiteral("3|0|0|0|0|0|OptiPlex GX270|7DK2Q1J|2006/01/15 09：05：00|0")}));
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Computer_Name, MacAddress, Memory_Used, CPU_Clock, CPU_MCA, Start_Page "
+                                         "FROM tbl_Pclist ORDER BY MainKey")),
+              (QStringList{QStringLiteral("0|NULL|NULL|NULL|NULL|NULL|NULL"),
+                           QStringLiteral("1|PC-SOUMU-01|00：0C：29：3A：5B：7C|301284|3|0|http：//www.example.co.jp/"),
+                           QStringLiteral("2|PC-SOUMU-01|00：0C：29：3A：5B：7C|301284|3|0|http：//www.example.co.jp/"),
+                           QStringLiteral("3|SALES-PC07|00-06-5B-12-34-56|180332|2794|1|http：//intranet.example.com/")}));
+    const QStringList perComputer = {QStringLiteral("tbl_ApplicationsList"), QStringLiteral("tbl_Device_Management"),
+                                     QStringLiteral("tbl_Printer_Management"), QStringLiteral("tbl_Environmental")};
+    const std::vector<std::array<int, 3>> rowsPerKey = {{5, 5, 2}, {3, 3, 2}, {2, 2, 1}, {3, 3, 2}};
+    for (qsizetype t = 0; t < perComputer.size(); ++t)
+        for (int key = 1; key <= 3; ++key)
+            EXPECT_EQ(count(perComputer[t], QStringLiteral("\"Key\" = %1").arg(key)), rowsPerKey[size_t(t)][size_t(key - 1)])
+                << perComputer[t].toStdString() << " key " << key;
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Application_Name FROM tbl_ApplicationsList WHERE \"Key\" = 2 AND Application_Version = '1.2'")),
+              QStringLiteral("Tom’s Mail Checker"));
+    // staging holds the last accepted file
+    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 97);
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Contents FROM tbl_ReadCsv WHERE SubItem = 'Computer name'")), QStringLiteral("SALES-PC07"));
+}
+
+TEST_F(ReadCommand, AnUnreadableFileIsReportedAndMadeFromTheStagedRows)
+{
+    TempDir other;
+    const QString ja = Inventory(QStringLiteral("ja_pc01.csv"));
+    const QString gone = other.file(QStringLiteral("gone.csv"));
+    const AdminRun r = Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path(), ja, gone});
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_EQ(r.out, (QStringList{ja + QStringLiteral(": MainKey 1"),
+                                  gone + QStringLiteral(": refused, cannot be read (ファイルが見つかりません。); MainKey 2 made from the staged file"),
+                                  QStringLiteral("1 of 2 files read, 1 refused")}));
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Computer_Name FROM tbl_Pclist WHERE MainKey = 2")), QStringLiteral("PC-SOUMU-01"));
+}
+
+TEST_F(ReadCommand, OpensALedgerOfAnyNameOrTheOneBesideTheProgram)
+{
+    TempDir folder;
+    QFile::copy(ledger.path(), folder.file(QStringLiteral("branch.ledger")));
+    const QString ja = Inventory(QStringLiteral("ja_pc01.csv"));
+    AdminRun r = Admin({QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("branch.ledger")), ja});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out.value(0), ja + QStringLiteral(": MainKey 1"));
+
+    // without --ledger: pcdb.mdb in the program's folder
+    const QString program = folder.file(QStringLiteral("fenwold-admin"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), program));
+    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    r = Admin({QStringLiteral("read"), ja}, program);
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("no ledger at ") + folder.path() + QStringLiteral("/pcdb.mdb"))) << r.err.toStdString();
+    QFile::copy(ledger.path(), folder.file(QStringLiteral("pcdb.mdb")));
+    r = Admin({QStringLiteral("read"), ja, ja}, program);
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out.value(1), ja + QStringLiteral(": MainKey 2"));
+}
+
+TEST_F(ReadCommand, UsageAndLedgerErrorsEndWithStatusOneAndChangeNothing)
+{
+    TempDir folder;
+    folder.write(QStringLiteral("pcdb.mdb"), QByteArray(4096, 'x'));
+    folder.write(QStringLiteral("empty.db"), QByteArray());
+    const QString ja = Inventory(QStringLiteral("ja_pc01.csv"));
+    const std::vector<QStringList> cases = {
+        {QStringLiteral("read")},
+        {QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path()},
+        {QStringLiteral("read"), QStringLiteral("--ledger")},
+        {QStringLiteral("read"), QStringLiteral("--japanese"), QStringLiteral("--ledger"), ledger.path(), ja},
+        {QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("missing.mdb")), ja},
+        {QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("pcdb.mdb")), ja},
+        // an empty file opens as an SQLite database without tables
+        {QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("empty.db")), ja},
+    };
+    for (const QStringList& args : cases) {
+        const AdminRun r = Admin(args);
+        EXPECT_EQ(r.exitCode, 1) << args.join(QLatin1Char(' ')).toStdString();
+        EXPECT_TRUE(r.out.isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
+        EXPECT_FALSE(r.err.isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
+    }
+    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List")), 1);
+    EXPECT_EQ(folder.read(QStringLiteral("pcdb.mdb")), QByteArray(4096, 'x'));
+}
+
+} // namespace

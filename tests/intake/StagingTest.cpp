@@ -1,0 +1,156 @@
+#include "intake/Staging.h"
+
+#include "IntakeFixture.h"
+
+#include "platform/vb/VbError.h"
+
+using namespace Mdl_Access_mdb;
+
+namespace {
+
+const QString kHeader = QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday");
+
+TEST(CsvHeader, OnlyTheExactSevenNamesPass)
+{
+    EXPECT_TRUE(CheckCsvHeader(kHeader));
+    const QStringList refused = {
+        QString(),
+        QStringLiteral("Key,Group,Item,Subitem,Contents,Unit,Renewalday"),   // case
+        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit"),              // one short
+        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday,"),  // one more comma
+        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday "),  // trailing blank
+        QStringLiteral("Key Group Item SubItem Contents Unit Renewalday"),
+        QChar(0xFEFF) + kHeader,                                             // no BOM handling
+        QStringLiteral("Group,Key,Item,SubItem,Contents,Unit,Renewalday"),
+    };
+    for (const QString& line : refused)
+        EXPECT_FALSE(CheckCsvHeader(line)) << line.toStdString();
+}
+
+class Staging : public IntakeFixture {
+protected:
+    QString write(const QString& name, const QByteArray& bytes)
+    {
+        files.write(name, bytes);
+        return files.file(name);
+    }
+    TempDir files;
+};
+
+TEST_F(Staging, SplitsEachLineWithoutQuotingAndCutsNothingButLongFields)
+{
+    // LF line ends, a .txt extension: the extension is not tested
+    ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc03.txt"))));
+    EXPECT_EQ(Mdl_gData::CsvFileBaseName, QStringLiteral("ja_pc03"));
+    EXPECT_EQ(Mdl_gData::CsvFileExtension, QStringLiteral("txt"));
+
+    const QString explanation = QStringLiteral("開発部の共用機。").repeated(37) + QStringLiteral("ABCD");
+    const QStringList expected = {
+        // nothing is sanitised in staging: colons stay
+        QStringLiteral("1|Create|DateTime|2006/02/01 13:45:00|||2006/02/01 13:45:00"),
+        // a double quote is an ordinary character
+        QStringLiteral("2|Network|LAN|コンピュータ名|\"PC-KAIHATSU-05\"||2006/02/01 13:45:00"),
+        // 300 characters are stored as 254
+        QStringLiteral("3|Network|LAN|コンピュータの説明|") + explanation.left(254) + QStringLiteral("||2006/02/01 13:45:00"),
+        // an empty line is a row of empty fields
+        QStringLiteral("||||||"),
+        // the seventh field takes the rest, commas included; backslashes stay
+        QStringLiteral("4|Soft|Application|Visual Studio .NET 2003|7.1.3088|C:\\Program Files\\Microsoft Visual Studio .NET "
+                       "2003\\|2006/01/20,updated,twice"),
+        // no comma at all: the whole line is lost
+        QStringLiteral("||||||"),
+        // too few commas: the fields without a comma stay empty and the tail lands in Renewalday
+        QStringLiteral("5|Hard|CPU|Clock|||2800"),
+    };
+    EXPECT_EQ(staging(), expected);
+}
+
+TEST_F(Staging, AQuoteInAValueReachesStagingUnharmed)
+{
+    ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc01.csv"))));
+    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 107);
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT SubItem FROM tbl_ReadCsv WHERE \"Key\" = '97'")), QStringLiteral("Tom's Mail Checker"));
+    // a comma inside Contents shifts the later fields of that line
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Contents, Unit, Renewalday FROM tbl_ReadCsv WHERE \"Key\" = '25'")),
+              QStringList{QStringLiteral("1|281|040,KB,2005/12/04 10:30:15")});
+    EXPECT_EQ(Mdl_gData::CsvFileBaseName, QStringLiteral("ja_pc01"));
+    EXPECT_EQ(Mdl_gData::CsvFileExtension, QStringLiteral("csv"));
+}
+
+TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
+{
+    ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc01.csv"))));
+    const QStringList before = staging();
+
+    const QStringList refused = {
+        Inventory(QStringLiteral("bad_header.csv")),
+        Inventory(QStringLiteral("bad_header_case.csv")),
+        write(QStringLiteral("empty.csv"), QByteArray()),
+        write(QStringLiteral("blank_first.csv"), "\r\n" + kHeader.toLatin1() + "\r\n1,a,b,c,d,e,f\r\n"),
+        write(QStringLiteral("bom.csv"), "\xEF\xBB\xBF" + kHeader.toLatin1() + "\r\n1,a,b,c,d,e,f\r\n"),
+    };
+    for (const QString& path : refused) {
+        EXPECT_FALSE(ReadCsvToStaging(path)) << path.toStdString();
+        EXPECT_EQ(staging(), before) << path.toStdString();
+    }
+    // the names are set before the test of the first line
+    EXPECT_EQ(Mdl_gData::CsvFileBaseName, QStringLiteral("bom"));
+
+    // a file that cannot be opened raises to the caller, staging untouched
+    try {
+        ReadCsvToStaging(files.file(QStringLiteral("missing.csv")));
+        ADD_FAILURE() << "no error for a missing file";
+    } catch (const vb::VbError& e) {
+        EXPECT_EQ(e.Number(), 53);
+    }
+    EXPECT_EQ(staging(), before);
+
+    // only the header: accepted, and staging is empty
+    EXPECT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("header_only.csv"))));
+    EXPECT_TRUE(staging().isEmpty());
+}
+
+TEST_F(Staging, LoneCarriageReturnsAndLineFeedsEndLinesToo)
+{
+    const QString path = write(QStringLiteral("mixed.csv"), kHeader.toLatin1() + "\r1,a,b,c,d,e,f\n2,g,h,i,j,k,l\r\n3,m,n,o,p,q,r");
+    ASSERT_TRUE(ReadCsvToStaging(path));
+    EXPECT_EQ(staging(), (QStringList{QStringLiteral("1|a|b|c|d|e|f"), QStringLiteral("2|g|h|i|j|k|l"),
+                                      QStringLiteral("3|m|n|o|p|q|r")}));
+}
+
+TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
+{
+    // the middle application's date is too long for [Update]: that row alone is lost
+    const QByteArray longDate(300, '9');
+    const QString path = write(QStringLiteral("apps.csv"), kHeader.toLatin1() + "\r\n"
+                                   "1,Soft,Application,Tom's Tool,1.0,C:\\Tools\\,2005/12/04 10:30:15\r\n"
+                                   "2,Soft,Application,Too Late,2.0,C:\\Late\\," + longDate + "\r\n"
+                                   "3,Soft,Application,Calc;Pro #2,3.0,D:\\Calc\\,2005/12/05\r\n"
+                                   "4,Environmental,PATH,C:\\bin;D:\\bin,,,2005/12/06\r\n");
+    ASSERT_TRUE(ReadCsvToStaging(path));
+    CopyAllStagingRows(QStringLiteral("7"));
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Application_Name, Application_Version, Application_Path "
+                                         "FROM tbl_ApplicationsList ORDER BY rowid")),
+              (QStringList{QStringLiteral("7|2005/12/04 10：30：15|Tom’s Tool|1.0|C：￥Tools￥"),
+                           QStringLiteral("7|2005/12/05|Calc；Pro ＃2|3.0|D：￥Calc￥")}));
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path FROM tbl_Environmental")),
+              QStringList{QStringLiteral("7|2005/12/06|PATH|C：￥bin；D：￥bin")});
+
+    // the modes without a caller, into columns that fit them; a mode outside 1 to 8 writes nothing
+    ledger.exec(QStringLiteral("DELETE FROM tbl_Environmental"));
+    const QString env = QStringLiteral("SELECT * FROM tbl_ReadCsv WHERE (Group = 'Environmental')");
+    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Name, Environmental_Path, [Key] ) VALUES("),
+                    QStringLiteral("1"), 1);
+    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Path, Coments, [Key] ) VALUES("),
+                    QStringLiteral("2"), 2);
+    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
+                    QStringLiteral("3"), 3);
+    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
+                    QStringLiteral("4"), 4);
+    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( [Key] ) VALUES("), QStringLiteral("9"), 9);
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path, Coments FROM tbl_Environmental ORDER BY rowid")),
+              (QStringList{QStringLiteral("1|NULL|PATH|C：￥bin；D：￥bin|NULL"), QStringLiteral("2|NULL|NULL|C：￥bin；D：￥bin|"),
+                           QStringLiteral("3|NULL|C：￥bin；D：￥bin||"), QStringLiteral("4|PATH|C：￥bin；D：￥bin||")}));
+}
+
+} // namespace
