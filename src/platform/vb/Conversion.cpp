@@ -11,12 +11,67 @@ namespace vb {
 namespace {
 
 const QDate kDateZero(1899, 12, 30);
+// The serials of 100/01/01 and 9999/12/31, the bounds of a VB date.
+constexpr double kFirstSerial = -657434;
+constexpr double kLastSerial = 2958465;
 
-bool isBlank(QChar c) { return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QChar(0x3000); }
+bool isBlank(QChar c) { return c == QLatin1Char(' ') || c == QLatin1Char('\t'); }
 
-// Reads [+|-] digits [,digits]* [.digits] [E|D [+|-] digits], blanks around allowed, also &H / &O.
-std::optional<double> parseNumberText(QStringView s)
+// Under the Japanese locale the trimming functions take the ideographic space for a blank too.
+bool isTrimmed(QChar c) { return c == QLatin1Char(' ') || c == QChar(0x3000); }
+
+bool isAsciiDigit(QChar c) { return c.unicode() >= '0' && c.unicode() <= '9'; }
+
+// The Japanese run time reads the full-width forms as their ASCII letters ("１２３" is 123,
+// "－５" is -5), the ideographic space as a blank and the yen sign in any form as the currency
+// symbol "\" of the locale.
+QString narrowed(QStringView s)
 {
+    QString out;
+    out.reserve(s.size());
+    for (QChar c : s) {
+        const char16_t u = c.unicode();
+        if (u >= 0xFF01 && u <= 0xFF5E)
+            out.append(QChar(char16_t(u - 0xFEE0)));
+        else if (u == 0x3000)
+            out.append(QLatin1Char(' '));
+        else if (u == 0x00A5 || u == 0xFFE5)
+            out.append(QLatin1Char('\\'));
+        else
+            out.append(c);
+    }
+    return out;
+}
+
+// The value of the hexadecimal or octal digits of "&H..." / "&O...": up to four hex digits make
+// a 16 bit Integer and more make a 32 bit Long, both signed, so "&HFFFF" is -1 and "&HFFFFFFFF"
+// is -1 too. std::nullopt when a character is no digit of the base or the value needs more than
+// 32 bits.
+std::optional<double> radixValue(QStringView digits, int base)
+{
+    if (digits.isEmpty())
+        return std::nullopt;
+    quint64 u = 0;
+    for (QChar c : digits) {
+        const int d = QStringLiteral("0123456789ABCDEF").indexOf(c.toUpper());
+        if (d < 0 || d >= base)
+            return std::nullopt;
+        u = u * quint64(base) + quint64(d);
+        if (u > 0xFFFFFFFFull)
+            return std::nullopt;
+    }
+    if (u <= 0xFFFF && (base != 16 || digits.size() <= 4))
+        return double(std::int16_t(std::uint16_t(u)));
+    return double(std::int32_t(std::uint32_t(u)));
+}
+
+// Reads a text as VB's conversion to a number does, after narrowing: blanks around it; a sign
+// before the number (blanks may follow it) or after it, or parentheses for a negative; a leading
+// currency sign; digits with "," thousands separators before the decimal point; an exponent with
+// E or D; or &H / &O.
+std::optional<double> parseNumberText(QStringView text)
+{
+    const QString s = narrowed(text);
     qsizetype i = 0, n = s.size();
     while (i < n && isBlank(s[i]))
         ++i;
@@ -26,58 +81,81 @@ std::optional<double> parseNumberText(QStringView s)
         return std::nullopt;
     if (s[i] == QLatin1Char('&') && i + 1 < n) {
         const QChar k = s[i + 1].toUpper();
-        int base = k == QLatin1Char('H') ? 16 : k == QLatin1Char('O') ? 8 : 0;
+        const int base = k == QLatin1Char('H') ? 16 : k == QLatin1Char('O') ? 8 : 0;
         if (base == 0)
             return std::nullopt;
-        bool ok = false;
-        const qulonglong u = s.mid(i + 2, n - i - 2).toULongLong(&ok, base);
-        if (!ok)
-            return std::nullopt;
-        // &H literals are 16 or 32 bit signed, as VB reads them.
-        if (u <= 0xFFFF && n - i - 2 <= 4)
-            return double(std::int16_t(std::uint16_t(u)));
-        if (u <= 0xFFFFFFFFull)
-            return double(std::int32_t(std::uint32_t(u)));
-        return std::nullopt;
+        return radixValue(QStringView(s).mid(i + 2, n - i - 2), base);
     }
-    QByteArray buf;
-    buf.reserve(n - i);
-    bool sign = false, digits = false, point = false, exp = false;
-    if (s[i] == QLatin1Char('+') || s[i] == QLatin1Char('-')) {
-        sign = true;
-        buf.append(char(s[i].unicode()));
-        ++i;
-    }
-    Q_UNUSED(sign);
+
+    bool negative = false, sign = false, paren = false, currency = false;
     for (; i < n; ++i) {
         const QChar c = s[i];
-        if (c.isDigit() && c.unicode() < 128) {
+        if ((c == QLatin1Char('+') || c == QLatin1Char('-')) && !sign && !paren) {
+            sign = true;
+            negative = c == QLatin1Char('-');
+        } else if (c == QLatin1Char('(') && !sign && !paren) {
+            paren = true;
+            negative = true;
+        } else if (c == QLatin1Char('\\') && !currency) {
+            currency = true;
+        } else if (!isBlank(c) || !(sign || paren || currency)) {
+            break;
+        }
+    }
+
+    QByteArray buf;
+    buf.reserve(n - i);
+    bool digits = false, point = false;
+    for (; i < n; ++i) {
+        const QChar c = s[i];
+        if (isAsciiDigit(c)) {
             buf.append(char(c.unicode()));
             digits = true;
-        } else if (c == QLatin1Char(',') && digits && !point && !exp) {
+        } else if (c == QLatin1Char(',') && digits && !point) {
             continue;  // thousands separator
-        } else if (c == QLatin1Char('.') && !point && !exp) {
+        } else if (c == QLatin1Char('.') && !point) {
             buf.append('.');
             point = true;
         } else if ((c == QLatin1Char('E') || c == QLatin1Char('e') || c == QLatin1Char('D') || c == QLatin1Char('d'))
-                   && digits && !exp) {
+                   && digits) {
             buf.append('e');
-            exp = true;
             if (i + 1 < n && (s[i + 1] == QLatin1Char('+') || s[i + 1] == QLatin1Char('-')))
                 buf.append(char(s[++i].unicode()));
-            if (i + 1 >= n || !s[i + 1].isDigit())
+            if (i + 1 >= n || !isAsciiDigit(s[i + 1]))
                 return std::nullopt;
+            while (i + 1 < n && isAsciiDigit(s[i + 1]))
+                buf.append(char(s[++i].unicode()));
+            ++i;
+            break;
         } else {
-            return std::nullopt;
+            break;
         }
     }
     if (!digits)
         return std::nullopt;
+
+    // what may follow the number: blanks, a sign when none came before, the closing parenthesis
+    while (i < n && isBlank(s[i]))
+        ++i;
+    if (i < n && (s[i] == QLatin1Char('+') || s[i] == QLatin1Char('-')) && !sign && !paren) {
+        negative = s[i] == QLatin1Char('-');
+        ++i;
+        while (i < n && isBlank(s[i]))
+            ++i;
+    }
+    if (paren) {
+        if (i >= n || s[i] != QLatin1Char(')'))
+            return std::nullopt;
+        ++i;
+    }
+    if (i != n)
+        return std::nullopt;
+
     bool ok = false;
     const double d = buf.toDouble(&ok);
     if (!ok || !std::isfinite(d))
         return std::nullopt;
-    return d;
+    return negative ? -d : d;
 }
 
 QString doubleToString(double d)
@@ -105,7 +183,8 @@ QString dateToString(const QDateTime& dt)
     const QDate d = dt.date();
     const QTime t = dt.time();
     const bool hasTime = t != QTime(0, 0);
-    if (IsDateZero(d) && hasTime)
+    // The day zero is not shown, so a time alone, and the date zero itself, print as a time.
+    if (IsDateZero(d))
         return t.toString(QStringLiteral("H:mm:ss"));
     if (!hasTime)
         return d.toString(QStringLiteral("yyyy/MM/dd"));
@@ -231,16 +310,27 @@ double DateToSerial(const QDateTime& dt)
 
 QDateTime SerialToDate(double serial)
 {
+    if (!(serial > kFirstSerial - 1 && serial < kLastSerial + 1))
+        throw VbError::Overflow();
     const double whole = std::trunc(serial);
     const double frac = std::fabs(serial - whole);
-    const QDate d = kDateZero.addDays(qint64(whole));
-    const int ms = int(std::llround(frac * 86400.0) * 1000);
-    return QDateTime(d, QTime::fromMSecsSinceStartOfDay(ms % 86400000), Qt::UTC);
+    qint64 days = qint64(whole);
+    long long seconds = std::llround(frac * 86400.0);
+    if (seconds == 86400) {
+        // a time that rounds up to midnight belongs to the next day away from zero
+        seconds = 0;
+        days += serial < 0 ? -1 : 1;
+    }
+    const QDate d = kDateZero.addDays(days);
+    if (d.year() < 100 || d.year() > 9999)
+        throw VbError::Overflow();
+    return QDateTime(d, QTime::fromMSecsSinceStartOfDay(int(seconds * 1000)), Qt::UTC);
 }
 
 std::optional<QDateTime> ParseDate(const QString& text)
 {
-    QStringView s = QStringView(text).trimmed();
+    const QString narrow = narrowed(text);
+    QStringView s = QStringView(narrow).trimmed();
     if (s.isEmpty())
         return std::nullopt;
     const qsizetype blank = s.indexOf(QLatin1Char(' '));
@@ -329,15 +419,14 @@ double Val(const QString& s)
         const int base = k == QLatin1Char('H') ? 16 : k == QLatin1Char('O') ? 8 : 0;
         if (base) {
             qsizetype j = 2;
-            qint64 value = 0;
-            while (j < n) {
-                const int digit = QStringLiteral("0123456789ABCDEF").indexOf(compact[j].toUpper());
-                if (digit < 0 || digit >= base)
-                    break;
-                value = value * base + digit;
+            while (j < n && QStringLiteral("0123456789ABCDEF").left(base).contains(compact[j].toUpper()))
                 ++j;
-            }
-            return double(value);
+            if (j == 2)
+                return 0;
+            // the digits read as a literal of that base would: "&HFFFF" is the Integer -1
+            if (auto value = radixValue(QStringView(compact).mid(2, j - 2), base))
+                return *value;
+            throw VbError::Overflow();
         }
     }
     QByteArray buf;
@@ -400,7 +489,7 @@ bool IsDate(const Variant& v)
 QString LTrim(const QString& s)
 {
     qsizetype i = 0;
-    while (i < s.size() && s[i] == QLatin1Char(' '))
+    while (i < s.size() && isTrimmed(s[i]))
         ++i;
     return s.mid(i);
 }
@@ -408,7 +497,7 @@ QString LTrim(const QString& s)
 QString RTrim(const QString& s)
 {
     qsizetype n = s.size();
-    while (n > 0 && s[n - 1] == QLatin1Char(' '))
+    while (n > 0 && isTrimmed(s[n - 1]))
         --n;
     return s.left(n);
 }
@@ -438,13 +527,17 @@ std::optional<bool> Equal(const Variant& a, const Variant& b)
         return a.stringValue().isEmpty();
     if (aNum && bNum)
         return toDouble(a) == toDouble(b);
-    // a number against a text: the text is read as a number; text that is no number differs
+    // A number against a text, as the system meets it: a field's value against a literal or a
+    // box's text. A text that reads as a number compares as a number ("5" = 5, " 5" = 5);
+    // any other text, and any text against a date, compares with the other side's CStr, so
+    // True = "True" and a date equals its printed form.
     const Variant& num = aNum ? a : b;
     const Variant& str = aNum ? b : a;
-    // VB orders any number below any text that is no number, so the two differ.
-    if (auto d = parseNumberText(str.stringValue()))
-        return toDouble(num) == *d;
-    return false;
+    if (!num.IsDate()) {
+        if (auto d = parseNumberText(str.stringValue()))
+            return toDouble(num) == *d;
+    }
+    return CStr(num) == str.stringValue();
 }
 
 std::int16_t IntAdd(std::int16_t a, std::int16_t b)

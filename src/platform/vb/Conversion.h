@@ -8,7 +8,8 @@
 // VB's conversion functions and operators over Variant, with VB's rules: Null raises 94 where VB
 // raised it, text that is no number raises 13, a value out of range raises 6, and numbers round
 // to even (banker's rounding) on the way to a whole type. Text to number and date follows the
-// Japanese locale the system ran in: "." decimal point, "," thousands separator, y/m/d dates.
+// Japanese locale the system ran in: "." decimal point, "," thousands separator, "\" currency
+// sign, y/m/d dates, and the full-width forms of digits and signs read as the narrow ones.
 namespace vb {
 
 std::int16_t CInt(const Variant& v);
@@ -25,7 +26,8 @@ double Val(const QString& s);
 bool IsNumeric(const Variant& v);
 bool IsDate(const Variant& v);
 
-// Trim, LTrim, RTrim remove blanks (character 32) only.
+// Trim, LTrim, RTrim remove blanks: character 32 and, under the Japanese locale, the
+// ideographic space U+3000. Tabs and line ends stay.
 QString Trim(const QString& s);
 QString LTrim(const QString& s);
 QString RTrim(const QString& s);
@@ -34,7 +36,8 @@ QString RTrim(const QString& s);
 Variant Concat(const Variant& a, const Variant& b);
 
 // The = operator of two Variants: std::nullopt stands for a Null result (either side Null).
-// A number and a text that reads as a number compare as numbers, otherwise as text.
+// A number and a text that reads as a number compare as numbers, otherwise as text (the
+// number's CStr); a date against a text always compares as text. Texts compare exactly.
 std::optional<bool> Equal(const Variant& a, const Variant& b);
 
 // Integer arithmetic with VB's overflow error.
@@ -50,7 +53,8 @@ std::optional<double> ParseNumber(const QString& s);
 std::optional<QDateTime> ParseDate(const QString& s);
 
 // Dates are kept as UTC QDateTime values so that no daylight saving shift can touch them;
-// the day 1899/12/30 is VB's date zero, which a time alone carries.
+// the day 1899/12/30 is VB's date zero, which a time alone carries. SerialToDate raises 6 for
+// a serial outside 100/01/01 .. 9999/12/31, the range of a VB date.
 QDateTime MakeDate(int y, int m, int d, int h = 0, int n = 0, int s = 0);
 double DateToSerial(const QDateTime& d);
 QDateTime SerialToDate(double serial);

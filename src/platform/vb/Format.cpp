@@ -10,6 +10,8 @@ QString Format(const Variant& v, const QString& pattern)
 {
     if (v.IsNull())
         return QString();
+    if (pattern.isEmpty())
+        return CStr(v);
     double value;
     if (v.IsString()) {
         auto d = ParseNumber(v.stringValue());

@@ -8,6 +8,7 @@ namespace vb {
 // thousands separator, '.' for decimals, literal text around them. A value rounds half away
 // from zero, as Format rounds (unlike CInt). "###,###" of 0 is "" since no digit is forced.
 // Null gives ""; a text that is no number comes back as it is, as VB's Format returns it.
+// An empty pattern gives the value's CStr.
 QString Format(const Variant& v, const QString& pattern);
 
 } // namespace vb

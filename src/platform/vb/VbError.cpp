@@ -16,6 +16,7 @@ VbError VbError::TypeMismatch() { return {13, QStringLiteral("型が一致しま
 VbError VbError::BadFileNameOrNumber() { return {52, QStringLiteral("ファイル名または番号が不正です。")}; }
 VbError VbError::FileNotFound() { return {53, QStringLiteral("ファイルが見つかりません。")}; }
 VbError VbError::PermissionDenied() { return {70, QStringLiteral("書き込みできません。")}; }
+VbError VbError::PathFileAccessError() { return {75, QStringLiteral("パス名が無効です。")}; }
 VbError VbError::PathNotFound() { return {76, QStringLiteral("パスが見つかりません。")}; }
 VbError VbError::InvalidPatternString() { return {93, QStringLiteral("パターン文字列が不正です。")}; }
 VbError VbError::InvalidUseOfNull() { return {94, QStringLiteral("Null の使い方が不正です。")}; }

@@ -25,6 +25,7 @@ public:
     static VbError BadFileNameOrNumber();   // 52
     static VbError FileNotFound();          // 53
     static VbError PermissionDenied();      // 70
+    static VbError PathFileAccessError();   // 75
     static VbError PathNotFound();          // 76
     static VbError InvalidPatternString();  // 93
     static VbError InvalidUseOfNull();      // 94
