@@ -1,0 +1,185 @@
+#include "ShellFixture.h"
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "platform/app/InstanceLock.h"
+#include "platform/db/Connection.h"
+#include "platform/ui/Dispatch.h"
+#include "platform/ui/FlexGrid.h"
+#include "platform/ui/StatusBar.h"
+#include "platform/ui/Twips.h"
+#include "platform/vb/VbError.h"
+
+#include "support/TempLedger.h"
+
+#include <QAction>
+#include <QFile>
+#include <QPointer>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+class Start : public ShellFixture {
+protected:
+    void SetUp() override
+    {
+        ShellFixture::SetUp();
+        ledger.closeConnection();
+    }
+    QByteArray iniBytes() const { return ledger.dir().read(QStringLiteral("DB.ini")); }
+    bool iniExists() const { return QFile::exists(ledger.dir().file(QStringLiteral("DB.ini"))); }
+    void writeIni(const QByteArray& text) const { ledger.dir().write(QStringLiteral("DB.ini"), text); }
+
+    TempLedger ledger;
+    TempDir noLedger;
+};
+
+// a place in twips as it comes back from the screen, whole pixels
+int onScreen(int twips) { return ui::PixelsToTwips(ui::TwipsToPixels(twips)); }
+
+TEST_F(Start, WithoutTheLedgerTheWindowStandsEmptyAndSaysWhy)
+{
+    const TempDir& folder = noLedger;
+    folder.write(QStringLiteral("DB.ini"),
+                 "[Main]\r\nSectionNumber=2\r\nSectionName1=\x8c\x6f\x97\x9d\r\nFormSizeWidth=9000\r\nFormSizeHight=6000\r\n");
+    frm_Main& m = ShellFixture::start(folder.path());
+    EXPECT_EQ(m.StatusBar1->PanelText(1), QStringLiteral("DBファイルが見つかりません。\r\nData Source=") + folder.path()
+                                              + QStringLiteral("/pcdb.mdbを確認ください"));
+    EXPECT_TRUE(m.IsLoaded());
+    EXPECT_TRUE(ended.empty());
+    EXPECT_TRUE(dialogs.calls().empty());
+    // the view settings before the connection were read; nothing after it ran
+    EXPECT_EQ(Mdl_gData::SectionNumber, 2);
+    EXPECT_EQ(Mdl_gData::ViewNames[1], QStringLiteral("経理"));
+    EXPECT_EQ(Mdl_gData::ViewNames[0], QStringLiteral(" "));
+    EXPECT_EQ(Mdl_gData::ColumnCount, 0);
+    EXPECT_EQ(m.Width(), onScreen(14835)) << "the saved size is not applied";
+    EXPECT_EQ(m.Height(), onScreen(10530));
+    EXPECT_EQ(Mdl_gData::MainFormWidth, 0);
+    // the menus stay as designed
+    EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
+    EXPECT_TRUE(m.Mnu_Delete->isEnabled());
+    EXPECT_TRUE(m.Mnu_ReplacePC->isEnabled());
+}
+
+TEST_F(Start, SecondStartIsRefusedAndTheFirstGoesOn)
+{
+    frm_Main& first = start(ledger.folder());
+    ASSERT_TRUE(first.IsLoaded());
+    MainList* firstList = first.List();
+
+    auto* second = new frm_Main;
+    second->Load();
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    EXPECT_EQ(dialogs.messages()[0].prompt, QStringLiteral("既に起動済みです。"));
+    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("Fenwold"));
+    EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbOKOnly) << "a plain box without icon";
+    EXPECT_EQ(ended, std::vector<int>{0});
+    delete second;
+
+    EXPECT_TRUE(first.IsLoaded());
+    EXPECT_EQ(MainList::Instance(), firstList);
+    EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen);
+    ASSERT_TRUE(Mdl_gData::StatusPanelText);
+    Mdl_gData::StatusPanelText(QStringLiteral("接続に失敗しました"));
+    EXPECT_EQ(first.StatusBar1->PanelText(1), QStringLiteral("接続に失敗しました"));
+    EXPECT_FALSE(app::InstanceLock(ledger.folder()).Acquire()) << "the first still holds the folder";
+}
+
+TEST_F(Start, RunThatWasKilledDoesNotBlockTheNextStart)
+{
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        // a running instance, killed below without a chance to clean up
+        app::InstanceLock lock(ledger.folder());
+        const char answer = lock.Acquire() ? 'y' : 'n';
+        (void)!write(ready[1], &answer, 1);
+        pause();
+        _exit(0);
+    }
+    char answer = 0;
+    ASSERT_EQ(read(ready[0], &answer, 1), 1);
+    close(ready[0]);
+    close(ready[1]);
+    ASSERT_EQ(answer, 'y');
+    EXPECT_FALSE(app::InstanceLock(ledger.folder()).Acquire()) << "a live instance holds the folder";
+
+    kill(child, SIGKILL);
+    waitpid(child, nullptr, 0);
+    ASSERT_TRUE(QFile::exists(ledger.folder() + QStringLiteral("/fenwold.lock"))) << "the killed run left its lock";
+    frm_Main& m = start(ledger.folder());
+    EXPECT_TRUE(dialogs.calls().empty());
+    EXPECT_TRUE(ended.empty());
+    EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen);
+    EXPECT_TRUE(m.IsLoaded());
+}
+
+TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
+{
+    writeIni("[View0]\r\nSelectNumber=1\r\n");
+    frm_Main& m = start(ledger.folder());
+    // a DB.ini without "Main": view 0, all names blank, 14835 x 10530 at 50, 50
+    EXPECT_EQ(Mdl_gData::SectionNumber, 0);
+    for (int i = 0; i <= 7; ++i)
+        EXPECT_EQ(Mdl_gData::ViewNames[i], QStringLiteral(" ")) << i;
+    EXPECT_EQ(m.geometry(), QRect(ui::TwipsToPixels(50), ui::TwipsToPixels(50), ui::TwipsToPixels(14835), ui::TwipsToPixels(10530)));
+    EXPECT_EQ(Mdl_gData::MainFormWidth, 14835);
+    EXPECT_EQ(Mdl_gData::MainFormTop, 50);
+
+    QPointer<frm_Main> main(&m);
+    m.Mnu_Program_Quit->trigger();
+    const QByteArray expected = "[View0]\r\nSelectNumber=1\r\n[Main]\r\nFormTop=" + QByteArray::number(onScreen(50))
+                                + "\r\nFormLeft=" + QByteArray::number(onScreen(50)) + "\r\nFormSizeWidth=14835\r\nFormSizeHight=10530\r\n";
+    EXPECT_EQ(iniBytes(), expected);
+    EXPECT_FALSE(Mdl_gData::HasDbConnection()) << "the connection was closed and released";
+    EXPECT_EQ(ShellWindows::MainIfLoaded(), nullptr);
+    flushDeletes();
+    EXPECT_TRUE(main.isNull());
+    EXPECT_TRUE(dialogs.calls().empty());
+
+    // the next start takes the saved size and place
+    writeIni("[Main]\r\nFormTop=1500\r\nFormLeft=3000\r\nFormSizeWidth=12000\r\nFormSizeHight=9000\r\nSectionNumber=3\r\n");
+    frm_Main& next = start(ledger.folder());
+    EXPECT_EQ(next.geometry(), QRect(ui::TwipsToPixels(3000), ui::TwipsToPixels(1500), ui::TwipsToPixels(12000), ui::TwipsToPixels(9000)));
+    EXPECT_EQ(Mdl_gData::SectionNumber, 3);
+}
+
+TEST_F(Start, CloseBoxUnloadsEveryWindowAndSavesNothing)
+{
+    frm_Main& m = start(ledger.folder());
+    m.Show();
+    m.findChild<QAction*>(QStringLiteral("Mnu_View_INPORT"))->trigger();
+    ASSERT_NE(window(QStringLiteral("frm_Inport")), nullptr);
+    m.SetLeft(4500);
+
+    m.close();
+    EXPECT_EQ(ShellWindows::MainIfLoaded(), nullptr);
+    EXPECT_EQ(window(QStringLiteral("frm_Inport")), nullptr) << "every window is unloaded";
+    EXPECT_TRUE(ui::Forms().isEmpty());
+    EXPECT_FALSE(iniExists()) << "size and place are saved by the quit command alone";
+    EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen) << "and the connection is left to the end of the run";
+    EXPECT_TRUE(dialogs.calls().empty());
+}
+
+TEST_F(Start, UncaughtErrorInAnEventEndsTheRunAndTheLedgerKeepsWhatWasWritten)
+{
+    start(ledger.folder());
+    ui::Dispatch([] {
+        Mdl_Access_mdb::ExecuteSql(QStringLiteral("INSERT INTO tbl_Section (Section_Code, Section_Name) VALUES (7, '総務部')"));
+        throw vb::VbError(3021, QStringLiteral("BOF と EOF のいずれかが True になっているか、または現在のレコードが削除されています。"));
+    });
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    EXPECT_EQ(dialogs.messages()[0].prompt,
+              QStringLiteral("実行時エラー '3021':\r\n\r\nBOF と EOF のいずれかが True になっているか、または現在のレコードが削除されています。"));
+    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("Fenwold"));
+    EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbCritical);
+    EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Section_Name FROM tbl_Section WHERE Section_Code = 7")), QStringLiteral("総務部"));
+}
+
+} // namespace
