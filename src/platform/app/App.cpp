@@ -1,5 +1,7 @@
 #include "platform/app/App.h"
 
+#include "platform/app/InstanceLock.h"
+
 #include <QCoreApplication>
 
 #include <cstdio>
@@ -45,6 +47,7 @@ void End(int status)
         g_end(status);
         return;
     }
+    InstanceLock::ReleaseAll();
     std::fflush(nullptr);
     // static destructors still run: the one ledger connection is closed on the way out
     std::exit(status);

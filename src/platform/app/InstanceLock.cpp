@@ -4,7 +4,18 @@
 
 #include <QLockFile>
 
+#include <algorithm>
+#include <vector>
+
 namespace app {
+
+namespace {
+std::vector<InstanceLock*>& held()
+{
+    static std::vector<InstanceLock*> locks;
+    return locks;
+}
+} // namespace
 
 QString InstanceLock::FileName() { return QStringLiteral("fenwold.lock"); }
 
@@ -23,6 +34,7 @@ bool InstanceLock::Acquire()
         return true;
     if (m_file->tryLock(0)) {
         m_held = true;
+        held().push_back(this);
         return true;
     }
     return m_file->error() != QLockFile::LockFailedError;
@@ -30,9 +42,18 @@ bool InstanceLock::Acquire()
 
 void InstanceLock::Release()
 {
-    if (m_held)
+    if (m_held) {
         m_file->unlock();
+        auto& locks = held();
+        locks.erase(std::remove(locks.begin(), locks.end(), this), locks.end());
+    }
     m_held = false;
+}
+
+void InstanceLock::ReleaseAll()
+{
+    while (!held().empty())
+        held().back()->Release();
 }
 
 } // namespace app

@@ -28,6 +28,8 @@ public:
 
     // The lock file's name in the program folder.
     static QString FileName();
+    // Releases every held lock; app::End calls it, since an ended program destroys no window.
+    static void ReleaseAll();
 
 private:
     std::unique_ptr<QLockFile> m_file;
