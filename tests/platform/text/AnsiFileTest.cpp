@@ -1,0 +1,73 @@
+#include "platform/text/AnsiFile.h"
+
+#include "platform/vb/VbError.h"
+#include "support/TempDir.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+
+using namespace text;
+
+namespace {
+
+long ErrorOfOpening(const QString& path)
+{
+    try {
+        AnsiFile file(path);
+    } catch (const vb::VbError& e) {
+        return e.Number();
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(AnsiFile, WritesCp932LinesEndedByCrLfOverTheOldFile)
+{
+    TempDir dir;
+    const QString path = dir.file(QStringLiteral("list.csv"));
+    dir.write(QStringLiteral("list.csv"), QByteArray(1000, 'x'));
+    {
+        AnsiFile file(path);
+        file.WriteLine(QStringLiteral("機器名,ｶﾅ"));
+        file.Write(QStringLiteral("a,"));
+        file.Write(QStringLiteral("\U0001F600"));
+        file.WriteLine(QString());
+        file.Write(QStringLiteral("末尾"));
+    } // the destructor closes
+    EXPECT_EQ(dir.read(QStringLiteral("list.csv")),
+              QByteArray("\x8B\x40\x8A\xED\x96\xBC,\xB6\xC5\r\na,?\r\n\x96\x96\x94\xF6"));
+}
+
+TEST(AnsiFile, LongOutputIsWrittenWholeAndCloseEndsWriting)
+{
+    TempDir dir;
+    const QString path = dir.file(QStringLiteral("big.csv"));
+    AnsiFile file(path);
+    for (int i = 0; i < 50000; ++i)
+        file.WriteLine(QStringLiteral("あいう"));
+    file.Close();
+    file.Close();
+    EXPECT_EQ(dir.read(QStringLiteral("big.csv")).size(), 50000 * 8);
+    try {
+        file.Write(QStringLiteral("x"));
+        FAIL() << "a write after Close must fail";
+    } catch (const vb::VbError& e) {
+        EXPECT_EQ(e.Number(), 52);
+    }
+}
+
+TEST(AnsiFile, FailsToOpenLikeOpenForOutput)
+{
+    TempDir dir;
+    EXPECT_EQ(ErrorOfOpening(dir.file(QStringLiteral("nofolder/list.csv"))), 76);
+    ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("folder.csv")));
+    EXPECT_EQ(ErrorOfOpening(dir.file(QStringLiteral("folder.csv"))), 75);
+
+    dir.write(QStringLiteral("locked.csv"), "keep");
+    const QString locked = dir.file(QStringLiteral("locked.csv"));
+    ASSERT_TRUE(QFile::setPermissions(locked, QFile::ReadOwner | QFile::ReadGroup));
+    EXPECT_EQ(ErrorOfOpening(locked), 75);
+    EXPECT_EQ(dir.read(QStringLiteral("locked.csv")), QByteArray("keep"));
+}
