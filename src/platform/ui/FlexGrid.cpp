@@ -9,6 +9,8 @@
 #include <QStyledItemDelegate>
 #include <QTimer>
 
+#include <climits>
+
 namespace ui {
 
 namespace {
@@ -38,6 +40,22 @@ public:
         QStyleOptionViewItem o(option);
         o.state &= ~(QStyle::State_HasFocus | QStyle::State_Selected);
         QStyledItemDelegate::paint(p, o, index);
+    }
+};
+
+// The grid's headers have fixed sizes (column 0's width, one row's height), and the view clamps
+// a header's size hint to them. Measuring every heading and row number for a hint that is clamped
+// anyway cost as much as the rest of a large fill, so a fixed header answers its fixed size.
+class FixedHeader : public QHeaderView {
+public:
+    using QHeaderView::QHeaderView;
+    QSize sizeHint() const override
+    {
+        if (orientation() == Qt::Vertical && minimumWidth() == maximumWidth())
+            return QSize(minimumWidth(), defaultSectionSize());
+        if (orientation() == Qt::Horizontal && minimumHeight() == maximumHeight())
+            return QSize(defaultSectionSize(), minimumHeight());
+        return QHeaderView::sizeHint();
     }
 };
 
@@ -113,12 +131,50 @@ public:
             Q_EMIT dataChanged(index(mr, mc), index(mr, mc));
     }
 
+    // The span of grid cells written while the view was not told of them. A flush tells the view
+    // of that span alone, so painting one row of a large grid does not make the headers measure
+    // all their sections again.
+    void noteDirty(int r, int c)
+    {
+        m_r0 = qMin(m_r0, r);
+        m_r1 = qMax(m_r1, r);
+        m_c0 = qMin(m_c0, c);
+        m_c1 = qMax(m_c1, c);
+    }
+    void noteAllDirty()
+    {
+        m_r0 = m_c0 = 0;
+        m_r1 = m_c1 = INT_MAX;
+    }
+    void clearDirty()
+    {
+        m_r0 = m_c0 = INT_MAX;
+        m_r1 = m_c1 = -1;
+    }
+    void flushDirty()
+    {
+        const int hr = headRows(), hc = headCols();
+        const int mr0 = qMax(m_r0 - hr, 0), mr1 = qMin(m_r1 == INT_MAX ? INT_MAX : m_r1 - hr, rowCount() - 1);
+        const int mc0 = qMax(m_c0 - hc, 0), mc1 = qMin(m_c1 == INT_MAX ? INT_MAX : m_c1 - hc, columnCount() - 1);
+        const bool headingRow = hr && m_r0 < hr, headingCol = hc && m_c0 < hc;
+        clearDirty();
+        if (mr0 <= mr1 && mc0 <= mc1)
+            Q_EMIT dataChanged(index(mr0, mc0), index(mr1, mc1));
+        if (headingRow && mc0 <= mc1)
+            Q_EMIT headerDataChanged(Qt::Horizontal, mc0, mc1);
+        if (headingCol && mr0 <= mr1)
+            Q_EMIT headerDataChanged(Qt::Vertical, mr0, mr1);
+    }
+
 private:
     FlexGrid* m_g;
+    int m_r0 = INT_MAX, m_r1 = -1, m_c0 = INT_MAX, m_c1 = -1;
 };
 
 FlexGrid::FlexGrid(QWidget* parent) : QTableView(parent), m_model(new FlexGridModel(this))
 {
+    setHorizontalHeader(new FixedHeader(Qt::Horizontal, this));
+    setVerticalHeader(new FixedHeader(Qt::Vertical, this));
     setModel(m_model);
     setItemDelegate(new PlainDelegate(this));
     setSelectionMode(QAbstractItemView::NoSelection);
@@ -158,10 +214,11 @@ void FlexGrid::structureChanged()
 
 void FlexGrid::changed(int row, int col)
 {
-    if (m_dirtyStructure || m_dirtyData)
+    if (m_dirtyStructure)
         return;
-    if (deferred()) {
+    if (m_dirtyData || deferred()) {
         m_dirtyData = true;
+        m_model->noteDirty(row, col);
         return;
     }
     m_model->cellChanged(row, col);
@@ -173,14 +230,9 @@ void FlexGrid::flush()
         m_model->reset();
         applyWidths();
     } else if (m_dirtyData) {
-        const int rows = m_model->rowCount(), cols = m_model->columnCount();
-        if (rows > 0 && cols > 0)
-            Q_EMIT m_model->dataChanged(m_model->index(0, 0), m_model->index(rows - 1, cols - 1));
-        if (cols > 0)
-            Q_EMIT m_model->headerDataChanged(Qt::Horizontal, 0, cols - 1);
-        if (rows > 0)
-            Q_EMIT m_model->headerDataChanged(Qt::Vertical, 0, rows - 1);
+        m_model->flushDirty();
     }
+    m_model->clearDirty();
     m_dirtyStructure = m_dirtyData = false;
 }
 
@@ -349,12 +401,10 @@ void FlexGrid::Clear()
 {
     for (Cell& c : m_cells)
         c = Cell{};
-    if (deferred())
-        m_dirtyData = true;
-    else {
-        m_dirtyData = true;
+    m_dirtyData = true;
+    m_model->noteAllDirty();
+    if (!deferred())
         flush();
-    }
 }
 
 void FlexGrid::Move(int left, int top, int width, int height)
