@@ -190,10 +190,16 @@ ShownColumn shownColumn(db::Recordset& rs, const QString& field)
     return c;
 }
 
-// Null and the empty text count as empty; a number, 0 included, does not.
-bool hasValue(const vb::Variant& v) { return !v.IsNull() && !vb::CStr(v).isEmpty(); }
-
-bool isOne(const vb::Variant& v) { return vb::Equal(v, vb::Variant(QStringLiteral("1"))).value_or(false); }
+// The original's test "= "1"": a number compares with the text as the number 1, a text as text.
+// The flag columns hold numbers, so the number's case is taken here without parsing "1" each time.
+bool isOne(const vb::Variant& v)
+{
+    if (v.Type() == vb::VarType::Integer)
+        return v.integerValue() == 1;
+    if (v.Type() == vb::VarType::Long)
+        return v.longValue() == 1;
+    return vb::Equal(v, vb::Variant(QStringLiteral("1"))).value_or(false);
+}
 
 // A capacity above 1000 shows in the larger unit, on the right; the comparison with 1000 raises
 // error 13 for a text that is no number.
@@ -293,10 +299,14 @@ bool MainList::fnc_View_PClist()
                 g.SetCellBackColor(white);
                 g.SetCellAlignment(ui::flexAlignLeftBottom);
                 const ShownColumn& c = shown[size_t(k)];
+                // Null and the empty text count as empty; a number, 0 included, does not
                 const vb::Variant& v = c.value.read(rs);
-                if (!hasValue(v))
+                if (v.IsNull())
                     continue;
-                g.SetText(vb::CStr(v));
+                const QString text = vb::CStr(v);
+                if (text.isEmpty())
+                    continue;
+                g.SetText(text);
                 switch (c.rendering) {
                 case Rendering::Text: break;
                 case Rendering::Master:

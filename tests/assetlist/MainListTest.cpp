@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include <set>
+
 using namespace Mdl_gData;
 
 namespace {
@@ -155,10 +157,20 @@ TEST_F(MainListTest, ClickSelectsAndPaintsOverTheRetiredGray)
     QObject::connect(grid.get(), &ui::FlexGrid::Click, grid.get(), [this] { list->MSFlexGrid_Main_Click(); });
     ASSERT_TRUE(QTest::qWaitForWindowExposed(grid.get()));
 
+    // the view is told of every painted row (the model rows sit one below the grid's headings)
+    std::set<int> toldRows;
+    QObject::connect(grid->model(), &QAbstractItemModel::dataChanged, grid.get(),
+                     [&toldRows](const QModelIndex& from, const QModelIndex& to) {
+                         if (from.column() == 0 && to.column() == 11)
+                             for (int r = from.row(); r <= to.row(); ++r)
+                                 toldRows.insert(r + 1);
+                     });
+
     // a click on the retired user's cell of row 2
     const QRect cell = grid->CellRect(2, 3);
     ASSERT_FALSE(cell.isEmpty());
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, cell.center());
+    EXPECT_EQ(toldRows, (std::set<int>{1, 2}));
     EXPECT_EQ(list->CurrentMainKey, 3);
     EXPECT_EQ(list->CurrentRow, 2);
     EXPECT_EQ(list->PreviousRow, 2);
