@@ -93,7 +93,7 @@ void Connection::requireOpen() const
 long Connection::Execute(const QString& jetSql)
 {
     requireOpen();
-    const JetStatement st = JetSql::Parse(jetSql);
+    const JetStatement st = JetSql::ParseShape(jetSql);
     Statement s = m_cache->acquire(st.shape);
     s.bind(st.params);
     return s.runToEnd(m_db);

@@ -3,6 +3,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+#include <cstring>
+
 #include <sqlite3.h>
 
 namespace db {
@@ -102,9 +104,28 @@ std::vector<Token> tokenize(QStringView s)
     return out;
 }
 
+// An identifier that is the given keyword, written in any case. The words are ASCII: a plain
+// ASCII identifier is compared byte by byte, anything else the way Qt folds case.
 bool is(const Token& t, const char* word)
 {
-    return t.type == Tok::Ident && t.text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+    if (t.type != Tok::Ident)
+        return false;
+    const qsizetype n = qsizetype(std::strlen(word));
+    if (t.text.size() != n)
+        return false;
+    for (qsizetype i = 0; i < n; ++i) {
+        char16_t c = t.text[i].unicode();
+        if (c >= 0x80)
+            return t.text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
+        if (c >= 'a' && c <= 'z')
+            c = char16_t(c - ('a' - 'A'));
+        char16_t w = char16_t(word[i]);
+        if (w >= 'a' && w <= 'z')
+            w = char16_t(w - ('a' - 'A'));
+        if (c != w)
+            return false;
+    }
+    return true;
 }
 
 bool isPunct(const Token& t, char c) { return t.type == Tok::Punct && t.text.size() == 1 && t.text[0] == QLatin1Char(c); }
@@ -118,6 +139,11 @@ bool isSqliteKeyword(QStringView word)
 void appendQuotedName(QString& out, QStringView name)
 {
     out += QLatin1Char('"');
+    if (!name.contains(QLatin1Char('"'))) {
+        out += name;
+        out += QLatin1Char('"');
+        return;
+    }
     for (QChar c : name) {
         if (c == QLatin1Char('"'))
             out += QLatin1Char('"');
@@ -135,6 +161,8 @@ QString stringValue(QStringView lit)
     QStringView inner = lit.mid(1);
     if (!inner.isEmpty() && inner.back() == q)
         inner.chop(1);
+    if (!inner.contains(q))
+        return inner.toString();
     QString v;
     v.reserve(inner.size());
     for (qsizetype i = 0; i < inner.size(); ++i) {
@@ -148,6 +176,11 @@ QString stringValue(QStringView lit)
 void appendStringLiteral(QString& out, QStringView value)
 {
     out += QLatin1Char('\'');
+    if (!value.contains(QLatin1Char('\''))) {
+        out += value;
+        out += QLatin1Char('\'');
+        return;
+    }
     for (QChar c : value) {
         if (c == QLatin1Char('\''))
             out += QLatin1Char('\'');
@@ -187,11 +220,16 @@ QString dateLiteralValue(QStringView body)
 
 } // namespace
 
-JetStatement JetSql::Parse(QStringView jet)
+namespace {
+
+// One pass over the tokens; withSql also writes the SQLite text with the literals in place,
+// which running a statement does not need.
+JetStatement parse(QStringView jet, bool withSql)
 {
     const std::vector<Token> toks = tokenize(jet);
     JetStatement st;
-    st.sql.reserve(jet.size() + 16);
+    if (withSql)
+        st.sql.reserve(jet.size() + 16);
     st.shape.reserve(jet.size() + 16);
 
     auto nextSolid = [&](size_t i) -> size_t {
@@ -223,12 +261,15 @@ JetStatement JetSql::Parse(QStringView jet)
     bool afterOrderOrGroup = false;
 
     auto emitBoth = [&](QStringView t) {
-        st.sql += t;
+        if (withSql)
+            st.sql += t;
         st.shape += t;
     };
+    auto lifting = [&] { return liftLiterals && !afterOrderOrGroup; };
     auto emitLiteral = [&](QStringView sqlText, Literal value) {
-        st.sql += sqlText;
-        if (liftLiterals && !afterOrderOrGroup) {
+        if (withSql)
+            st.sql += sqlText;
+        if (lifting()) {
             st.shape += QLatin1Char('?');
             st.params.push_back(std::move(value));
         } else {
@@ -259,6 +300,11 @@ JetStatement JetSql::Parse(QStringView jet)
             break;
         case Tok::Str: {
             QString value = stringValue(t.text);
+            if (!withSql && lifting()) {
+                st.shape += QLatin1Char('?');
+                st.params.push_back(std::move(value));
+                break;
+            }
             QString lit;
             appendStringLiteral(lit, value);
             emitLiteral(lit, std::move(value));
@@ -357,5 +403,11 @@ JetStatement JetSql::Parse(QStringView jet)
     }
     return st;
 }
+
+} // namespace
+
+JetStatement JetSql::Parse(QStringView jet) { return parse(jet, true); }
+
+JetStatement JetSql::ParseShape(QStringView jet) { return parse(jet, false); }
 
 } // namespace db

@@ -38,6 +38,8 @@ struct JetStatement {
 class JetSql {
 public:
     static JetStatement Parse(QStringView jet);
+    // The same without the sql text: the shape and its literals are all that running needs.
+    static JetStatement ParseShape(QStringView jet);
     static QString Rewrite(QStringView jet) { return Parse(jet).sql; }
 };
 

@@ -8,11 +8,6 @@
 
 #include <sqlite3.h>
 
-#include <deque>
-#include <string>
-#include <string_view>
-#include <unordered_map>
-
 namespace db {
 
 using vb::Variant;
@@ -35,42 +30,8 @@ QString quoteName(const QString& n)
     return QLatin1Char('"') + q + QLatin1Char('"');
 }
 
-// The texts of one column of a snapshot, each converted once. Ledger columns repeat a handful of
-// values over many rows (an OS name, a workgroup, a subnet mask, a lease date), so a repeated
-// text costs a lookup and a shared copy instead of a conversion and an allocation. A column whose
-// values keep differing stops being looked up.
-class ColumnTexts {
-public:
-    const Variant* find(std::string_view bytes) const
-    {
-        if (m_full)
-            return nullptr;
-        const auto it = m_seen.find(bytes);
-        return it == m_seen.end() ? nullptr : &it->second;
-    }
-    void add(std::string_view bytes, const Variant& v)
-    {
-        if (m_full)
-            return;
-        if (m_seen.size() >= kLimit) {
-            m_full = true;
-            m_seen.clear();
-            m_keys.clear();
-            return;
-        }
-        m_keys.emplace_back(bytes);
-        m_seen.emplace(std::string_view(m_keys.back()), v);
-    }
-
-private:
-    static constexpr size_t kLimit = 512;
-    std::unordered_map<std::string_view, Variant> m_seen;
-    std::deque<std::string> m_keys;   // owns the bytes the keys view
-    bool m_full = false;
-};
-
 // A stored value as the Variant the field's type gives it.
-Variant readCell(sqlite3_stmt* s, int i, DataType type, ColumnTexts* texts = nullptr)
+Variant readCell(sqlite3_stmt* s, int i, DataType type)
 {
     switch (sqlite3_column_type(s, i)) {
     case SQLITE_NULL: return kNull;
@@ -98,22 +59,12 @@ Variant readCell(sqlite3_stmt* s, int i, DataType type, ColumnTexts* texts = nul
     }
     default: {
         const char* text = reinterpret_cast<const char*>(sqlite3_column_text(s, i));
-        const std::string_view bytes(text ? text : "", size_t(sqlite3_column_bytes(s, i)));
-        if (texts) {
-            if (const Variant* seen = texts->find(bytes))
-                return *seen;
-        }
-        QString str = QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
-        Variant v;
+        QString str = QString::fromUtf8(text, sqlite3_column_bytes(s, i));
         if (type == adDate) {
             if (auto d = vb::ParseDate(str))
-                v = Variant(*d);
+                return Variant(*d);
         }
-        if (v.IsEmpty())
-            v = Variant(std::move(str));
-        if (texts)
-            texts->add(bytes, v);
-        return v;
+        return Variant(std::move(str));
     }
     }
 }
@@ -187,7 +138,6 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
     for (const ColumnInfo& c : m_columns->columns)
         types.push_back(c.type);
 
-    std::vector<ColumnTexts> texts(static_cast<size_t>(m_cols));
     sqlite3_stmt* h = s.handle();
     long rows = 0;
     int rc;
@@ -195,7 +145,7 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
         for (int r = 0; r < rid; ++r)
             m_rowids.push_back(sqlite3_column_int64(h, r));
         for (int c = 0; c < m_cols; ++c)
-            m_cells.push_back(readCell(h, c + rid, types[size_t(c)], &texts[size_t(c)]));
+            m_cells.push_back(readCell(h, c + rid, types[size_t(c)]));
         ++rows;
     }
     if (rc != SQLITE_DONE)
@@ -247,26 +197,16 @@ long Recordset::RecordCount() const
     return visibleCount();
 }
 
-// A current row that is not deleted shows that some row is visible, which spares the count of
-// visible rows on every step of a walk through the records.
 bool Recordset::Eof() const
 {
     requireOpen();
-    if (m_rows == 0 || m_pos >= m_rows)
-        return true;
-    if (m_pos >= 0 && !m_deleted[size_t(m_pos)])
-        return false;
-    return visibleCount() == 0;
+    return m_rows == 0 || m_pos >= m_rows || visibleCount() == 0;
 }
 
 bool Recordset::Bof() const
 {
     requireOpen();
-    if (m_rows == 0 || m_pos < 0)
-        return true;
-    if (m_pos < m_rows && !m_deleted[size_t(m_pos)])
-        return false;
-    return visibleCount() == 0;
+    return m_rows == 0 || m_pos < 0 || visibleCount() == 0;
 }
 
 void Recordset::skipDeleted(int direction)

@@ -84,6 +84,10 @@ private:
     LockType m_lock = adLockReadOnly;
     EditMode m_edit = adEditNone;
     std::map<int, vb::Variant> m_pending;    // assigned, not yet written
+    // the INSERT of the last AddNew and the fields it named: a run of added rows that assign the
+    // same fields builds its text once
+    QString m_insertSql;
+    std::vector<int> m_insertFields;
 };
 
 } // namespace db

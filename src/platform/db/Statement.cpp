@@ -13,7 +13,7 @@ Statement::Statement(StatementCache* cache, sqlite3_stmt* stmt, std::shared_ptr<
 }
 
 Statement::Statement(Statement&& o) noexcept
-    : m_cache(o.m_cache), m_stmt(o.m_stmt), m_columns(std::move(o.m_columns)), m_cached(o.m_cached)
+    : m_cache(o.m_cache), m_stmt(o.m_stmt), m_columns(std::move(o.m_columns)), m_cached(o.m_cached), m_texts(std::move(o.m_texts))
 {
     o.m_stmt = nullptr;
 }
@@ -26,6 +26,7 @@ Statement& Statement::operator=(Statement&& o) noexcept
         m_stmt = o.m_stmt;
         m_columns = std::move(o.m_columns);
         m_cached = o.m_cached;
+        m_texts = std::move(o.m_texts);
         o.m_stmt = nullptr;
     }
     return *this;
@@ -43,6 +44,7 @@ void Statement::release()
         sqlite3_finalize(m_stmt);
     }
     m_stmt = nullptr;
+    m_texts.clear();
 }
 
 void Statement::bind(const std::vector<Literal>& params)
@@ -55,9 +57,10 @@ void Statement::bind(const std::vector<Literal>& params)
         } else if (const auto* d = std::get_if<double>(&p)) {
             sqlite3_bind_double(m_stmt, at, *d);
         } else {
-            const QString& s = std::get<QString>(p);
-            // the literal outlives the run of the statement, so SQLite may keep the pointer
-            sqlite3_bind_text16(m_stmt, at, s.utf16(), int(s.size() * 2), SQLITE_STATIC);
+            // Bound as UTF-8, the ledger's encoding, so that SQLite does not translate it; the
+            // bytes live in the statement until it goes back, so SQLite may keep the pointer.
+            m_texts.push_back(std::get<QString>(p).toUtf8());
+            sqlite3_bind_text(m_stmt, at, m_texts.back().constData(), int(m_texts.back().size()), SQLITE_STATIC);
         }
     }
 }

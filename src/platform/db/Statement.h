@@ -3,7 +3,10 @@
 #include "platform/db/ColumnSet.h"
 #include "platform/db/JetSql.h"
 
+#include <QByteArray>
+
 #include <memory>
+#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -39,6 +42,8 @@ private:
     sqlite3_stmt* m_stmt = nullptr;
     std::shared_ptr<const ColumnSet> m_columns;
     bool m_cached = false;
+    // the UTF-8 form of the bound texts, alive until the statement goes back
+    std::vector<QByteArray> m_texts;
 };
 
 } // namespace db
