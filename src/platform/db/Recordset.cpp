@@ -8,6 +8,11 @@
 
 #include <sqlite3.h>
 
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
 namespace db {
 
 using vb::Variant;
@@ -30,8 +35,42 @@ QString quoteName(const QString& n)
     return QLatin1Char('"') + q + QLatin1Char('"');
 }
 
+// The texts of one column of a snapshot, each converted once. Ledger columns repeat a handful of
+// values over many rows (an OS name, a workgroup, a subnet mask, a lease date), so a repeated
+// text costs a lookup and a shared copy instead of a conversion and an allocation. A column whose
+// values keep differing stops being looked up.
+class ColumnTexts {
+public:
+    const Variant* find(std::string_view bytes) const
+    {
+        if (m_full)
+            return nullptr;
+        const auto it = m_seen.find(bytes);
+        return it == m_seen.end() ? nullptr : &it->second;
+    }
+    void add(std::string_view bytes, const Variant& v)
+    {
+        if (m_full)
+            return;
+        if (m_seen.size() >= kLimit) {
+            m_full = true;
+            m_seen.clear();
+            m_keys.clear();
+            return;
+        }
+        m_keys.emplace_back(bytes);
+        m_seen.emplace(std::string_view(m_keys.back()), v);
+    }
+
+private:
+    static constexpr size_t kLimit = 512;
+    std::unordered_map<std::string_view, Variant> m_seen;
+    std::deque<std::string> m_keys;   // owns the bytes the keys view
+    bool m_full = false;
+};
+
 // A stored value as the Variant the field's type gives it.
-Variant readCell(sqlite3_stmt* s, int i, DataType type)
+Variant readCell(sqlite3_stmt* s, int i, DataType type, ColumnTexts* texts = nullptr)
 {
     switch (sqlite3_column_type(s, i)) {
     case SQLITE_NULL: return kNull;
@@ -59,12 +98,22 @@ Variant readCell(sqlite3_stmt* s, int i, DataType type)
     }
     default: {
         const char* text = reinterpret_cast<const char*>(sqlite3_column_text(s, i));
-        QString str = QString::fromUtf8(text, sqlite3_column_bytes(s, i));
+        const std::string_view bytes(text ? text : "", size_t(sqlite3_column_bytes(s, i)));
+        if (texts) {
+            if (const Variant* seen = texts->find(bytes))
+                return *seen;
+        }
+        QString str = QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
+        Variant v;
         if (type == adDate) {
             if (auto d = vb::ParseDate(str))
-                return Variant(*d);
+                v = Variant(*d);
         }
-        return Variant(std::move(str));
+        if (v.IsEmpty())
+            v = Variant(std::move(str));
+        if (texts)
+            texts->add(bytes, v);
+        return v;
     }
     }
 }
@@ -89,7 +138,9 @@ Variant convertForField(const Variant& v, DataType type)
     }
 }
 
-void bindVariant(sqlite3_stmt* s, int at, const Variant& v, std::vector<QString>& keep)
+// Texts are bound as UTF-8, the ledger's encoding, so that SQLite has nothing to translate; keep
+// holds the bytes until the statement has run.
+void bindVariant(sqlite3_stmt* s, int at, const Variant& v, std::vector<QByteArray>& keep)
 {
     switch (v.Type()) {
     case vb::VarType::Null:
@@ -100,9 +151,9 @@ void bindVariant(sqlite3_stmt* s, int at, const Variant& v, std::vector<QString>
     case vb::VarType::Double: sqlite3_bind_double(s, at, v.doubleValue()); break;
     case vb::VarType::Date:
     case vb::VarType::String: {
-        keep.push_back(v.IsDate() ? dateText(v.dateValue()) : v.stringValue());
-        const QString& t = keep.back();
-        sqlite3_bind_text16(s, at, t.utf16(), int(t.size() * 2), SQLITE_TRANSIENT);
+        keep.push_back(v.IsDate() ? dateText(v.dateValue()).toUtf8() : v.stringValue().toUtf8());
+        const QByteArray& t = keep.back();
+        sqlite3_bind_text(s, at, t.constData(), int(t.size()), SQLITE_STATIC);
         break;
     }
     }
@@ -117,7 +168,7 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
     if (m_open)
         throw vb::VbError(3705, QStringLiteral("オブジェクトが開いている場合は、操作は許可されません。"));
     connection.requireOpen();
-    const JetStatement st = JetSql::Parse(source);
+    const JetStatement st = JetSql::ParseShape(source);
     const bool wantUpdates = lock != adLockReadOnly && lock != adLockUnspecified;
     Statement s = connection.prepare(st, wantUpdates);
     s.bind(st.params);
@@ -131,6 +182,8 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
     m_rowids.clear();
     m_pending.clear();
     m_edit = adEditNone;
+    m_insertSql.clear();
+    m_insertFields.clear();
 
     const int rid = m_columns->rowidCount;
     std::vector<DataType> types;
@@ -138,14 +191,19 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
     for (const ColumnInfo& c : m_columns->columns)
         types.push_back(c.type);
 
+    // made at the second row: a result of one row (the lookups of the inventory read) has
+    // nothing to repeat
+    std::vector<ColumnTexts> texts;
     sqlite3_stmt* h = s.handle();
     long rows = 0;
     int rc;
     while ((rc = sqlite3_step(h)) == SQLITE_ROW) {
+        if (rows == 1)
+            texts.resize(size_t(m_cols));
         for (int r = 0; r < rid; ++r)
             m_rowids.push_back(sqlite3_column_int64(h, r));
         for (int c = 0; c < m_cols; ++c)
-            m_cells.push_back(readCell(h, c + rid, types[size_t(c)]));
+            m_cells.push_back(readCell(h, c + rid, types[size_t(c)], rows == 0 ? nullptr : &texts[size_t(c)]));
         ++rows;
     }
     if (rc != SQLITE_DONE)
@@ -197,16 +255,26 @@ long Recordset::RecordCount() const
     return visibleCount();
 }
 
+// A current row that is not deleted shows that some row is visible, which spares the count of
+// visible rows on every step of a walk through the records.
 bool Recordset::Eof() const
 {
     requireOpen();
-    return m_rows == 0 || m_pos >= m_rows || visibleCount() == 0;
+    if (m_rows == 0 || m_pos >= m_rows)
+        return true;
+    if (m_pos >= 0 && !m_deleted[size_t(m_pos)])
+        return false;
+    return visibleCount() == 0;
 }
 
 bool Recordset::Bof() const
 {
     requireOpen();
-    return m_rows == 0 || m_pos < 0 || visibleCount() == 0;
+    if (m_rows == 0 || m_pos < 0)
+        return true;
+    if (m_pos < m_rows && !m_deleted[size_t(m_pos)])
+        return false;
+    return visibleCount() == 0;
 }
 
 void Recordset::skipDeleted(int direction)
@@ -357,7 +425,8 @@ void Recordset::Update()
     if (m_edit == adEditNone)
         return;
     const ColumnSet& cs = *m_columns;
-    std::vector<QString> keep;
+    std::vector<QByteArray> keep;
+    keep.reserve(m_pending.size());
 
     if (m_edit == adEditAdd) {
         // the table of the new row: the recordset's one table, or the one all assignments go to
@@ -373,19 +442,29 @@ void Recordset::Update()
         if (slot < 0)
             throw EngineError::NotSupported();
         const QString& table = cs.rowidTables[size_t(slot)];
-        QString names, marks;
-        for (const auto& [col, value] : m_pending) {
-            if (!names.isEmpty()) {
-                names += QLatin1String(", ");
-                marks += QLatin1String(", ");
-            }
-            names += quoteName(column(col).origin);
-            marks += QLatin1Char('?');
+        bool same = !m_insertSql.isEmpty() && m_insertFields.size() == m_pending.size();
+        if (same) {
+            size_t k = 0;
+            for (const auto& [col, value] : m_pending)
+                same = same && m_insertFields[k++] == col;
         }
-        const QString sql = names.isEmpty()
-                                ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(quoteName(table))
-                                : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(quoteName(table), names, marks);
-        Statement s = m_conn->prepareSql(sql);
+        if (!same) {
+            QString names, marks;
+            m_insertFields.clear();
+            for (const auto& [col, value] : m_pending) {
+                if (!names.isEmpty()) {
+                    names += QLatin1String(", ");
+                    marks += QLatin1String(", ");
+                }
+                names += quoteName(column(col).origin);
+                marks += QLatin1Char('?');
+                m_insertFields.push_back(col);
+            }
+            m_insertSql = names.isEmpty()
+                              ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(quoteName(table))
+                              : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(quoteName(table), names, marks);
+        }
+        Statement s = m_conn->prepareSql(m_insertSql);
         int at = 1;
         for (const auto& [col, value] : m_pending)
             bindVariant(s.handle(), at++, value, keep);
