@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QTest>
 
 namespace {
 
@@ -147,6 +148,39 @@ TEST_F(MainWindow, ProfileDeleteAndRetireFollowTheSelection)
     EXPECT_EQ(Mdl_gData::SelectedMainKey, 15);
     EXPECT_EQ(Mdl_gData::SelectedGridRow, 5);
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
+}
+
+TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensIt)
+{
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
+                               "Deleted_Flug) VALUES (5, 0, 0, 0, 0, 0)"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (5, 'PC-SOUMU-05')"));
+    ledger.dir().write(QStringLiteral("DB.ini"), "[0]\r\nMSFlexGrit_SelectNum=1\r\nMSFlexGrit_Select1=8\r\n");
+    ledger.closeConnection();
+    frm_Main& m = start();
+    m.Show();
+    QCoreApplication::processEvents();
+    ui::FlexGrid& grid = *m.MSFlexGrid_Main;
+    ASSERT_EQ(grid.Rows(), 2);
+    ASSERT_EQ(grid.TextMatrix(1, 2), QStringLiteral("PC-SOUMU-05"));
+    EXPECT_FALSE(m.Mnu_Delete->isEnabled());
+
+    const QRect cell = grid.CellRect(1, 2);
+    ASSERT_FALSE(cell.isEmpty());
+    QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
+    EXPECT_EQ(m.List()->CurrentMainKey, 5);
+    EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
+    EXPECT_TRUE(m.Mnu_Delete->isEnabled());
+    EXPECT_TRUE(m.Mnu_ReplacePC->isEnabled());
+    EXPECT_TRUE(m.Mnu_View_Select->isEnabled());
+
+    QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
+    ASSERT_NE(window(QStringLiteral("frm_Edit_Computer")), nullptr);
+    EXPECT_EQ(Mdl_gData::SelectedMainKey, 5);
+    EXPECT_EQ(Mdl_gData::SelectedGridRow, 1);
+    EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
+    EXPECT_TRUE(m.Mnu_Delete->isEnabled());
+    EXPECT_TRUE(dialogs.calls().empty());
 }
 
 TEST_F(MainWindow, AboutBoxIsModalAndClosesWithOk)
