@@ -21,6 +21,18 @@ QString DataSourceOf(const QString& cs)
     return {};
 }
 
+namespace {
+
+// SQLite counts its memory use under a global mutex on every allocation; nothing here reads the
+// counts. The setting only takes before SQLite starts, so it is made once, before the first open.
+void configureEngine()
+{
+    static const bool configured = [] { return sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0) == SQLITE_OK; }();
+    (void)configured;
+}
+
+} // namespace
+
 Connection::Connection() = default;
 
 Connection::~Connection() { Close(); }
@@ -44,6 +56,7 @@ void Connection::Open(const QString& connectionString)
     if (path.isEmpty() || !QFileInfo(path).isFile())
         throw EngineError::FileNotFound(path);
 
+    configureEngine();
     sqlite3* db = nullptr;
     const int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     if (rc != SQLITE_OK) {
@@ -77,6 +90,7 @@ void Connection::Close()
     m_cache.reset();
     m_rowidShape.clear();
     m_rowidTables.clear();
+    m_selects.clear();
     if (m_level > 0)
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
     m_level = 0;
@@ -97,6 +111,20 @@ long Connection::Execute(const QString& jetSql)
     Statement s = m_cache->acquire(st.shape);
     s.bind(st.params);
     return s.runToEnd(m_db);
+}
+
+JetStatement Connection::parse(const QString& jetSql)
+{
+    const auto known = m_selects.constFind(jetSql);
+    if (known != m_selects.constEnd())
+        return *known;
+    JetStatement st = JetSql::ParseShape(jetSql);
+    if (st.kind == JetStatement::Kind::Select) {
+        if (m_selects.size() >= 512)
+            m_selects.clear();
+        m_selects.insert(jetSql, st);
+    }
+    return st;
 }
 
 Statement Connection::prepareSql(const QString& sqliteText)

@@ -49,6 +49,9 @@ public:
     // For the recordset: a prepared statement for a parsed Jet statement. With withRowids, an
     // updatable SELECT also returns the rowid of each source table in hidden leading columns.
     Statement prepare(const JetStatement& st, bool withRowids);
+    // The parse of a statement for running. SELECT texts come back again and again (the lookups
+    // of the inventory read, the lists), so their parses are kept.
+    JetStatement parse(const QString& jetSql);
     Statement prepareSql(const QString& sqliteText);
     sqlite3* handle() const { return m_db; }
     void requireOpen() const;
@@ -61,6 +64,7 @@ private:
     std::unique_ptr<StatementCache> m_cache;
     // SELECT shape -> the same with the rowid columns, or an empty text when it is not updatable
     QHash<QString, QString> m_rowidShape;
+    QHash<QString, JetStatement> m_selects;
     QHash<QString, std::vector<QString>> m_rowidTables;
     long m_level = 0;
 };

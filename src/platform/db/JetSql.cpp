@@ -3,8 +3,6 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-#include <cstring>
-
 #include <sqlite3.h>
 
 namespace db {
@@ -22,10 +20,11 @@ bool isIdentStart(QChar c) { return c.isLetter() || c == QLatin1Char('_') || c.u
 bool isIdentPart(QChar c) { return isIdentStart(c) || c.isDigit() || c == QLatin1Char('$'); }
 bool isDigit(QChar c) { return c.unicode() >= '0' && c.unicode() <= '9'; }
 
-std::vector<Token> tokenize(QStringView s)
+// Fills out with the tokens of s; out keeps its capacity from one statement to the next.
+void tokenize(QStringView s, std::vector<Token>& out)
 {
-    std::vector<Token> out;
-    out.reserve(s.size() / 3);
+    out.clear();
+    out.reserve(size_t(s.size() / 3));
     qsizetype i = 0;
     const qsizetype n = s.size();
     while (i < n) {
@@ -40,14 +39,17 @@ std::vector<Token> tokenize(QStringView s)
             // 'text' with '' inside, or Jet's "text" with "" inside; an unclosed one runs to the end
             ++i;
             while (i < n) {
-                if (s[i] == c) {
-                    if (i + 1 < n && s[i + 1] == c) {
-                        i += 2;
-                        continue;
-                    }
+                const qsizetype q = s.indexOf(c, i);
+                if (q < 0) {
+                    i = n;
                     break;
                 }
-                ++i;
+                i = q;
+                if (i + 1 < n && s[i + 1] == c) {
+                    i += 2;
+                    continue;
+                }
+                break;
             }
             out.push_back({Tok::Str, s.mid(start, qMin(i + 1, n) - start)});
             i = qMin(i + 1, n);
@@ -101,17 +103,15 @@ std::vector<Token> tokenize(QStringView s)
             ++i;
         }
     }
-    return out;
 }
 
 // An identifier that is the given keyword, written in any case. The words are ASCII: a plain
 // ASCII identifier is compared byte by byte, anything else the way Qt folds case.
-bool is(const Token& t, const char* word)
+template <size_t N>
+inline bool is(const Token& t, const char (&word)[N])
 {
-    if (t.type != Tok::Ident)
-        return false;
-    const qsizetype n = qsizetype(std::strlen(word));
-    if (t.text.size() != n)
+    constexpr qsizetype n = qsizetype(N - 1);
+    if (t.type != Tok::Ident || t.text.size() != n)
         return false;
     for (qsizetype i = 0; i < n; ++i) {
         char16_t c = t.text[i].unicode();
@@ -222,11 +222,61 @@ QString dateLiteralValue(QStringView body)
 
 namespace {
 
+// The shape is mostly the statement's own text: a run of tokens that pass unchanged is copied
+// as one piece, and only what is rewritten is appended by itself.
+class ShapeWriter {
+public:
+    ShapeWriter(QString& out, QStringView source) : m_out(out), m_source(source) {}
+    void add(QStringView t)
+    {
+        const quintptr at = quintptr(t.data());
+        const quintptr from = quintptr(m_source.data());
+        const quintptr to = quintptr(m_source.data() + m_source.size());
+        if (at >= from && at + quintptr(t.size()) * sizeof(QChar) <= to) {
+            if (m_size > 0 && m_begin + m_size == t.data()) {
+                m_size += t.size();
+                return;
+            }
+            flush();
+            m_begin = t.data();
+            m_size = t.size();
+            return;
+        }
+        flush();
+        m_out += t;
+    }
+    void add(QChar c)
+    {
+        flush();
+        m_out += c;
+    }
+    qsizetype size()
+    {
+        flush();
+        return m_out.size();
+    }
+    void flush()
+    {
+        if (m_size > 0)
+            m_out.append(m_begin, m_size);
+        m_size = 0;
+    }
+
+private:
+    QString& m_out;
+    QStringView m_source;
+    const QChar* m_begin = nullptr;
+    qsizetype m_size = 0;
+};
+
 // One pass over the tokens; withSql also writes the SQLite text with the literals in place,
 // which running a statement does not need.
 JetStatement parse(QStringView jet, bool withSql)
 {
-    const std::vector<Token> toks = tokenize(jet);
+    // the system runs one statement at a time: the token list is reused
+    thread_local std::vector<Token> tokens;
+    tokenize(jet, tokens);
+    const std::vector<Token>& toks = tokens;
     JetStatement st;
     if (withSql)
         st.sql.reserve(jet.size() + 16);
@@ -260,20 +310,21 @@ JetStatement parse(QStringView jet, bool withSql)
     bool liftLiterals = !isSelect && st.kind != JetStatement::Kind::Other;
     bool afterOrderOrGroup = false;
 
+    ShapeWriter shape(st.shape, jet);
     auto emitBoth = [&](QStringView t) {
         if (withSql)
             st.sql += t;
-        st.shape += t;
+        shape.add(t);
     };
     auto lifting = [&] { return liftLiterals && !afterOrderOrGroup; };
     auto emitLiteral = [&](QStringView sqlText, Literal value) {
         if (withSql)
             st.sql += sqlText;
         if (lifting()) {
-            st.shape += QLatin1Char('?');
+            shape.add(QLatin1Char('?'));
             st.params.push_back(std::move(value));
         } else {
-            st.shape += sqlText;
+            shape.add(sqlText);
         }
     };
 
@@ -301,7 +352,7 @@ JetStatement parse(QStringView jet, bool withSql)
         case Tok::Str: {
             QString value = stringValue(t.text);
             if (!withSql && lifting()) {
-                st.shape += QLatin1Char('?');
+                shape.add(QLatin1Char('?'));
                 st.params.push_back(std::move(value));
                 break;
             }
@@ -394,13 +445,14 @@ JetStatement parse(QStringView jet, bool withSql)
                             emitBoth(toks[k].text);
                         i = j;
                     }
-                    st.selectListAt = st.shape.size();
+                    st.selectListAt = shape.size();
                 }
             }
             break;
         }
         }
     }
+    shape.flush();
     return st;
 }
 

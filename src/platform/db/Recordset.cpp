@@ -6,6 +6,8 @@
 #include "platform/db/Statement.h"
 #include "platform/vb/Conversion.h"
 
+#include <QStringEncoder>
+
 #include <sqlite3.h>
 
 #include <deque>
@@ -138,9 +140,37 @@ Variant convertForField(const Variant& v, DataType type)
     }
 }
 
-// Texts are bound as UTF-8, the ledger's encoding, so that SQLite has nothing to translate; keep
-// holds the bytes until the statement has run.
-void bindVariant(sqlite3_stmt* s, int at, const Variant& v, std::vector<QByteArray>& keep)
+// The UTF-8 bytes of the texts bound for one Update, the ledger's encoding, so that SQLite has
+// nothing to translate. One buffer, sized for all of them before the first goes in, so that the
+// bytes stay where SQLite was told they are until the statements have run.
+class Utf8Texts {
+public:
+    explicit Utf8Texts(const std::map<int, Variant>& values)
+    {
+        qsizetype capacity = 0;
+        for (const auto& [col, v] : values) {
+            if (v.IsString())
+                capacity += v.stringValue().size() * 3;
+            else if (v.IsDate())
+                capacity += 64;
+        }
+        m_bytes.resize(capacity + 1);   // never empty: an empty text must not bind as Null
+    }
+    QByteArrayView add(QStringView text)
+    {
+        char* begin = m_bytes.data() + m_used;
+        char* end = m_encoder.appendToBuffer(begin, text);
+        m_used += end - begin;
+        return QByteArrayView(begin, end - begin);
+    }
+
+private:
+    QByteArray m_bytes;
+    qsizetype m_used = 0;
+    QStringEncoder m_encoder{QStringEncoder::Utf8};
+};
+
+void bindVariant(sqlite3_stmt* s, int at, const Variant& v, Utf8Texts& texts)
 {
     switch (v.Type()) {
     case vb::VarType::Null:
@@ -151,9 +181,8 @@ void bindVariant(sqlite3_stmt* s, int at, const Variant& v, std::vector<QByteArr
     case vb::VarType::Double: sqlite3_bind_double(s, at, v.doubleValue()); break;
     case vb::VarType::Date:
     case vb::VarType::String: {
-        keep.push_back(v.IsDate() ? dateText(v.dateValue()).toUtf8() : v.stringValue().toUtf8());
-        const QByteArray& t = keep.back();
-        sqlite3_bind_text(s, at, t.constData(), int(t.size()), SQLITE_STATIC);
+        const QByteArrayView t = v.IsDate() ? texts.add(dateText(v.dateValue())) : texts.add(v.stringValue());
+        sqlite3_bind_text(s, at, t.data(), int(t.size()), SQLITE_STATIC);
         break;
     }
     }
@@ -168,7 +197,7 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
     if (m_open)
         throw vb::VbError(3705, QStringLiteral("オブジェクトが開いている場合は、操作は許可されません。"));
     connection.requireOpen();
-    const JetStatement st = JetSql::ParseShape(source);
+    const JetStatement st = connection.parse(source);
     const bool wantUpdates = lock != adLockReadOnly && lock != adLockUnspecified;
     Statement s = connection.prepare(st, wantUpdates);
     s.bind(st.params);
@@ -425,8 +454,7 @@ void Recordset::Update()
     if (m_edit == adEditNone)
         return;
     const ColumnSet& cs = *m_columns;
-    std::vector<QByteArray> keep;
-    keep.reserve(m_pending.size());
+    Utf8Texts keep(m_pending);
 
     if (m_edit == adEditAdd) {
         // the table of the new row: the recordset's one table, or the one all assignments go to
