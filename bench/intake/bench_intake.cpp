@@ -19,12 +19,14 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 namespace {
 
 struct AdminRun {
     double seconds = 0;
+    double cpuSeconds = 0;
     long maxRssKb = 0;
     int exitCode = -1;
 };
@@ -33,7 +35,7 @@ struct AdminRun {
 AdminRun runAdmin(const QString& ledger, const QStringList& files)
 {
     QProcess p;
-    QStringList args = {QStringLiteral("-f"), QStringLiteral("maxrss_kb=%M"), QStringLiteral(FENWOLD_ADMIN), QStringLiteral("read"),
+    QStringList args = {QStringLiteral("-f"), QStringLiteral("cpu=%U+%S maxrss_kb=%M"), QStringLiteral(FENWOLD_ADMIN), QStringLiteral("read"),
                         QStringLiteral("--ledger"), ledger};
     args += files;
     QElapsedTimer t;
@@ -47,6 +49,11 @@ AdminRun runAdmin(const QString& ledger, const QStringList& files)
     const qsizetype at = err.lastIndexOf(QStringLiteral("maxrss_kb="));
     if (at >= 0)
         r.maxRssKb = err.mid(at + 10).trimmed().toLong();
+    const qsizetype cpu = err.lastIndexOf(QStringLiteral("cpu="));
+    if (cpu >= 0) {
+        const QStringList parts = err.mid(cpu + 4).section(QLatin1Char(' '), 0, 0).split(QLatin1Char('+'));
+        r.cpuSeconds = parts.value(0).toDouble() + parts.value(1).toDouble();
+    }
     return r;
 }
 
@@ -62,6 +69,13 @@ QString freshLedger(const QTemporaryDir& dir, const QString& name)
         std::exit(1);
     }
     return path;
+}
+
+double cpuNow()
+{
+    timespec t{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
+    return double(t.tv_sec) + double(t.tv_nsec) / 1e9;
 }
 
 double median(std::vector<double> v)
@@ -113,7 +127,7 @@ int main(int argc, char** argv)
                 machine().toUtf8().constData());
 
     const AdminRun one = runAdmin(freshLedger(dir, QStringLiteral("one.mdb")), files.mid(0, 1));
-    std::vector<double> readTimes, floorTimes;
+    std::vector<double> readTimes, floorTimes, readCpu, floorCpu;
     long peakKb = 0;
     QString readLedger, floorLedger;
     for (int run = 0; run < runs; ++run) {
@@ -124,12 +138,15 @@ int main(int argc, char** argv)
             return 1;
         }
         readTimes.push_back(all.seconds);
+        readCpu.push_back(all.cpuSeconds);
         peakKb = std::max(peakKb, all.maxRssKb);
 
         floorLedger = freshLedger(dir, QStringLiteral("floor.mdb"));
         t.restart();
+        const double cpu = cpuNow();
         const QString error = bench::FloorRead(floorLedger, files);
         floorTimes.push_back(double(t.nsecsElapsed()) / 1e9);
+        floorCpu.push_back(cpuNow() - cpu);
         if (!error.isEmpty()) {
             std::fprintf(stderr, "floor: %s\n", error.toUtf8().constData());
             return 1;
@@ -149,10 +166,12 @@ int main(int argc, char** argv)
     }
 
     const double readS = median(readTimes), floorS = median(floorTimes);
+    const double readC = median(readCpu), floorC = median(floorCpu);
     std::printf("same end result in both ledgers: %lld rows in the six tables\n", qlonglong(read.size()));
-    std::printf("fenwold-admin read:  %6.2f s  (%.2f ms per file, median of %d)\n", readS, readS * 1000 / files.size(), runs);
-    std::printf("plain SQLite floor:  %6.2f s  (%.2f ms per file)\n", floorS, floorS * 1000 / files.size());
-    std::printf("ratio:               %6.2f x\n", readS / floorS);
+    std::printf("                     wall (median of %d)      cpu (user+sys)\n", runs);
+    std::printf("fenwold-admin read:  %6.2f s  %5.2f ms/file   %6.2f s\n", readS, readS * 1000 / files.size(), readC);
+    std::printf("plain SQLite floor:  %6.2f s  %5.2f ms/file   %6.2f s\n", floorS, floorS * 1000 / files.size(), floorC);
+    std::printf("ratio:               %6.2f x                  %6.2f x\n", readS / floorS, readC / floorC);
     std::printf("peak memory of the read: %.1f MB for one file, %.1f MB for %lld files, growth %.1f MB\n", one.maxRssKb / 1024.0,
                 peakKb / 1024.0, qlonglong(files.size()), (peakKb - one.maxRssKb) / 1024.0);
     return 0;
