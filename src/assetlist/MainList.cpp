@@ -190,8 +190,8 @@ ShownColumn shownColumn(db::Recordset& rs, const QString& field)
     return c;
 }
 
-// The original's test "= "1"": a number compares with the text as the number 1, a text as text.
-// The flag columns hold numbers, so the number's case is taken here without parsing "1" each time.
+// VB's test = "1": a number compares with the text as the number 1, a text compares as text.
+// The flag columns hold numbers, so their case is decided here without parsing "1" each time.
 bool isOne(const vb::Variant& v)
 {
     if (v.Type() == vb::VarType::Integer)
