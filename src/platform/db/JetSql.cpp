@@ -92,9 +92,11 @@ void tokenize(QStringView s, std::vector<Token>& out)
             out.push_back({Tok::Ident, s.mid(start, i - start)});
         } else {
             if (i + 1 < n) {
-                const QStringView two = s.mid(i, 2);
-                if (two == u"<>" || two == u"<=" || two == u">=" || two == u"||" || two == u"!=") {
-                    out.push_back({Tok::Punct, two});
+                // <> <= >= || !=
+                const char16_t a = c.unicode(), b = s[i + 1].unicode();
+                if ((a == '<' && (b == '>' || b == '=')) || (a == '>' && b == '=') || (a == '|' && b == '|')
+                    || (a == '!' && b == '=')) {
+                    out.push_back({Tok::Punct, s.mid(i, 2)});
                     i += 2;
                     continue;
                 }

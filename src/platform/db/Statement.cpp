@@ -3,6 +3,8 @@
 #include "platform/db/EngineError.h"
 #include "platform/db/StatementCache.h"
 
+#include <QStringEncoder>
+
 #include <sqlite3.h>
 
 namespace db {
@@ -13,7 +15,7 @@ Statement::Statement(StatementCache* cache, sqlite3_stmt* stmt, std::shared_ptr<
 }
 
 Statement::Statement(Statement&& o) noexcept
-    : m_cache(o.m_cache), m_stmt(o.m_stmt), m_columns(std::move(o.m_columns)), m_cached(o.m_cached), m_texts(std::move(o.m_texts))
+    : m_cache(o.m_cache), m_stmt(o.m_stmt), m_columns(std::move(o.m_columns)), m_cached(o.m_cached), m_utf8(std::move(o.m_utf8))
 {
     o.m_stmt = nullptr;
 }
@@ -26,7 +28,7 @@ Statement& Statement::operator=(Statement&& o) noexcept
         m_stmt = o.m_stmt;
         m_columns = std::move(o.m_columns);
         m_cached = o.m_cached;
-        m_texts = std::move(o.m_texts);
+        m_utf8 = std::move(o.m_utf8);
         o.m_stmt = nullptr;
     }
     return *this;
@@ -44,11 +46,21 @@ void Statement::release()
         sqlite3_finalize(m_stmt);
     }
     m_stmt = nullptr;
-    m_texts.clear();
+    m_utf8.clear();
 }
 
 void Statement::bind(const std::vector<Literal>& params)
 {
+    // Texts are bound as UTF-8, the ledger's encoding, so that SQLite does not translate them.
+    // Their bytes go into one buffer, sized before the first goes in, that lives in the statement
+    // until it goes back: SQLite may keep the pointers.
+    qsizetype capacity = 1;
+    for (const Literal& p : params)
+        if (const auto* text = std::get_if<QString>(&p))
+            capacity += text->size() * 3;
+    m_utf8.resize(capacity);
+    QStringEncoder encoder(QStringEncoder::Utf8);
+    char* next = m_utf8.data();
     for (size_t i = 0; i < params.size(); ++i) {
         const int at = int(i + 1);
         const Literal& p = params[i];
@@ -57,10 +69,9 @@ void Statement::bind(const std::vector<Literal>& params)
         } else if (const auto* d = std::get_if<double>(&p)) {
             sqlite3_bind_double(m_stmt, at, *d);
         } else {
-            // Bound as UTF-8, the ledger's encoding, so that SQLite does not translate it; the
-            // bytes live in the statement until it goes back, so SQLite may keep the pointer.
-            m_texts.push_back(std::get<QString>(p).toUtf8());
-            sqlite3_bind_text(m_stmt, at, m_texts.back().constData(), int(m_texts.back().size()), SQLITE_STATIC);
+            char* end = encoder.appendToBuffer(next, std::get<QString>(p));
+            sqlite3_bind_text(m_stmt, at, next, int(end - next), SQLITE_STATIC);
+            next = end;
         }
     }
 }

@@ -6,7 +6,6 @@
 #include <QByteArray>
 
 #include <memory>
-#include <vector>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -43,7 +42,7 @@ private:
     std::shared_ptr<const ColumnSet> m_columns;
     bool m_cached = false;
     // the UTF-8 form of the bound texts, alive until the statement goes back
-    std::vector<QByteArray> m_texts;
+    QByteArray m_utf8;
 };
 
 } // namespace db
