@@ -14,14 +14,14 @@
 
 #include <QStringList>
 
+#include "support/QtPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <map>
 #include <memory>
 #include <ostream>
 
-// Readable failures for texts and lists of texts.
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 
 // A fresh ledger beside a program folder of its own, connected as the main window connects it,
 // with the main grid and its list made directly, offscreen. Helpers add master rows and computers

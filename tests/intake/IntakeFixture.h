@@ -9,13 +9,14 @@
 
 #include <QStringList>
 
+#include "support/QtPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
 #include <utility>
 #include <vector>
 
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 
 inline QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
 

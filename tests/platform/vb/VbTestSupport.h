@@ -3,12 +3,13 @@
 #include "platform/vb/Variant.h"
 #include "platform/vb/VbError.h"
 
+#include "support/QtPrinters.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>
 #include <variant>
 
-inline void PrintTo(const QString& s, std::ostream* os) { *os << '"' << s.toStdString() << '"'; }
 inline void PrintTo(const QDateTime& d, std::ostream* os)
 {
     *os << d.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss.zzz")).toStdString();
