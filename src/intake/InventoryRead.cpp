@@ -36,11 +36,38 @@ void InventoryReader::writeFieldMap(const QString& key)
     }
 }
 
+namespace {
+// How much work a batch holds before it is committed.
+constexpr qint64 kBatchMilliseconds = 250;
+} // namespace
+
+InventoryReader::~InventoryReader() { Commit(); }
+
+void InventoryReader::Commit()
+{
+    // Only an engine that gave up the whole transaction (a full disk) makes this fail; what it
+    // kept is then already written.
+    if (m_batch)
+        vb::ResumeNext([&] { m_batch->Commit(); });
+    m_batch.reset();
+}
+
 InventoryFileResult InventoryReader::Read(const QString& path)
 {
     InventoryFileResult result;
     result.path = path;
-    db::Transaction file(Mdl_gData::DbConnection());
+    if (!m_batch) {
+        m_batch = std::make_unique<db::Transaction>(Mdl_gData::DbConnection());
+        m_batchAge.start();
+    }
+    struct CommitWhenDue {
+        InventoryReader& r;
+        ~CommitWhenDue()
+        {
+            if (r.m_batchAge.elapsed() >= kBatchMilliseconds)
+                r.Commit();
+        }
+    } due{*this};
 
     // From here on a failing statement is skipped and the next one runs. A file that cannot be
     // opened fails inside the test of ReadCsvToStaging, so the test is what is skipped: a
@@ -67,10 +94,6 @@ InventoryFileResult InventoryReader::Read(const QString& path)
     CopyAllStagingRows(key);
     Mdl_gData::LastReadMainKey = m_key;
     result.mainKey = m_key;
-
-    // Only an engine that gave up the whole transaction (a full disk) makes this fail; what it
-    // kept is then already written.
-    vb::ResumeNext([&] { file.Commit(); });
     return result;
 }
 

@@ -2,11 +2,15 @@
 
 #include "intake/InventoryFieldMap.h"
 
+#include "platform/db/Connection.h"
+
+#include <QElapsedTimer>
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 
 // The bulk read of inventory files: each accepted file becomes a new computer, with its row in
 // tbl_Computer_List and tbl_Pclist, the 107 fields of the field map, and its applications,
@@ -36,19 +40,30 @@ struct InventoryFileResult {
 class InventoryReader {
 public:
     explicit InventoryReader(InventoryLanguage language) : m_language(language) {}
+    // Commits what the run wrote.
+    ~InventoryReader();
+    InventoryReader(const InventoryReader&) = delete;
+    InventoryReader& operator=(const InventoryReader&) = delete;
 
     // Reads one file into the ledger through DbConnection and sets LastReadMainKey.
     //
-    // Each file's statements run inside one savepoint: a refused statement still drops alone
-    // (SQLite undoes only that statement), the run is many times faster than with a commit per
-    // statement, and a run that is killed leaves each computer whole or absent.
+    // The run's statements go into the ledger in batches: a savepoint is opened before a file
+    // and committed after the file that ends a quarter of a second of work, and at the end of
+    // the run. A refused statement still drops alone (SQLite undoes only that statement), files
+    // are committed between, never within, so a run that is killed leaves each computer whole or
+    // absent, and the run is many times faster than with a commit per statement or per file.
     InventoryFileResult Read(const QString& path);
+
+    // Commits the open batch now; the next file opens a new one.
+    void Commit();
 
 private:
     void writeFieldMap(const QString& key);
 
     InventoryLanguage m_language;
     std::int16_t m_key = 0;
+    std::unique_ptr<db::Transaction> m_batch;
+    QElapsedTimer m_batchAge;
 };
 
 // ReadInventoryFiles: the run that both read commands share, file by file in the given order;
