@@ -174,17 +174,34 @@ std::int16_t MaxMainKey()
 
 QString SanitizeField(const QString& text)
 {
-    if (text.isEmpty())
+    // Each character has one replacement and no replacement is itself replaced, so one pass
+    // gives what the eight replacements in turn gave; a text without any of them is returned
+    // as it is, without a copy (most values of an inventory file).
+    static const auto replacement = [] {
+        std::array<char16_t, 128> r{};
+        r[u','] = 0x3001;   // 、
+        r[u'\''] = 0x2019;  // ’
+        r[u';'] = 0xFF1B;   // ；
+        r[u'#'] = 0xFF03;   // ＃
+        r[u'\\'] = 0xFFE5;  // ￥
+        r[u':'] = 0xFF1A;   // ：
+        r[u'\n'] = u' ';
+        r[u'\r'] = u' ';
+        return r;
+    }();
+    const auto hit = [](char16_t c) { return c < 128 && replacement[c] != 0; };
+    const char16_t* data = reinterpret_cast<const char16_t*>(text.constData());
+    const qsizetype n = text.size();
+    qsizetype i = 0;
+    while (i < n && !hit(data[i]))
+        ++i;
+    if (i == n)
         return text;
     QString s = text;
-    s.replace(QLatin1Char(','), QChar(0x3001));   // 、
-    s.replace(QLatin1Char('\''), QChar(0x2019));  // ’
-    s.replace(QLatin1Char(';'), QChar(0xFF1B));   // ；
-    s.replace(QLatin1Char('#'), QChar(0xFF03));   // ＃
-    s.replace(QLatin1Char('\\'), QChar(0xFFE5));  // ￥
-    s.replace(QLatin1Char(':'), QChar(0xFF1A));   // ：
-    s.replace(QLatin1Char('\n'), QLatin1Char(' '));
-    s.replace(QLatin1Char('\r'), QLatin1Char(' '));
+    char16_t* out = reinterpret_cast<char16_t*>(s.data());
+    for (; i < n; ++i)
+        if (hit(out[i]))
+            out[i] = replacement[out[i]];
     return s;
 }
 
