@@ -1,0 +1,48 @@
+#include "assetlist/ListExport.h"
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "platform/text/AnsiFile.h"
+#include "platform/ui/CommonDialog.h"
+#include "platform/ui/Dialogs.h"
+#include "platform/ui/FlexGrid.h"
+#include "platform/vb/VbError.h"
+
+namespace ListExport {
+
+void WriteGrid(const ui::FlexGrid& grid, const QString& path)
+{
+    text::AnsiFile file(path);
+    QString line;
+    for (int row = 0; row < grid.Rows(); ++row) {
+        line.clear();
+        for (int col = 1; col < grid.Cols(); ++col) {
+            line += grid.TextMatrix(row, col);
+            line += u',';
+        }
+        line += u' ';
+        file.WriteLine(line);
+    }
+    file.Close();
+}
+
+void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
+{
+    ui::CommonDialog dialog;
+    dialog.CancelError = true;
+    dialog.DialogTitle = dialogTitle;
+    // The two filters run together without a separator: the dialog offers "全て(*.*)" and a
+    // second entry whose pattern is lost.
+    dialog.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
+    dialog.FilterIndex = 2;
+    try {
+        dialog.ShowSave();
+        WriteGrid(grid, dialog.FileName + QStringLiteral(".csv"));
+    } catch (const vb::VbError& e) {
+        if (e.Number() != vb::Err::CancelSelected)
+            Mdl_Access_mdb::StandardErrorBox(e);
+        return;
+    }
+    ui::MsgBox(QStringLiteral("完了しました"));
+}
+
+} // namespace ListExport
