@@ -1,5 +1,6 @@
 #include "shell/ShellWindows.h"
 
+#include "intake/frm_Open.h"
 #include "platform/ui/FormInstance.h"
 #include "shell/PlaceholderForm.h"
 #include "shell/frmAbout.h"
@@ -24,7 +25,7 @@ frmAbout& About() { return g_about(); }
 
 ui::Form& frm_Open()
 {
-    static ui::FormInstance<ui::Form> instance(placeholder("frm_Open"));
+    static ui::FormInstance<::frm_Open> instance;
     return instance();
 }
 

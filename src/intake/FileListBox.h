@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QListWidget>
+#include <QString>
+
+// The file list of the read window: the files of one folder that match the pattern, by name,
+// several selectable at once (Ctrl and Shift with the mouse or the keys). Click is emitted when
+// an entry is clicked, or when the keys move to another entry; refilling the list, or giving it
+// the focus, is no click.
+class FileListBox : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit FileListBox(QWidget* parent = nullptr);
+
+    QString Path() const { return m_path; }
+    // Lists the files of a folder. A path that is no folder raises error 76 and changes nothing.
+    void SetPath(const QString& path);
+    QString Pattern() const { return m_pattern; }
+    // Patterns as "*.csv", several separated by ";"; letter case does not count, as it did not
+    // on the systems the inventory files come from.
+    void SetPattern(const QString& pattern);
+    // Lists the folder again.
+    void Refresh();
+
+Q_SIGNALS:
+    void Click();
+
+protected:
+    void keyPressEvent(QKeyEvent* e) override;
+
+private:
+    QString m_path;
+    QString m_pattern = QStringLiteral("*");
+};

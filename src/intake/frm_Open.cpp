@@ -1,0 +1,275 @@
+#include "intake/frm_Open.h"
+
+#include "assetlist/MainList.h"
+#include "foundation/Mdl_Access_mdb.h"
+#include "intake/DirListBox.h"
+#include "intake/DriveListBox.h"
+#include "intake/FileListBox.h"
+#include "intake/InventoryRead.h"
+#include "platform/app/App.h"
+#include "platform/ui/Dialogs.h"
+#include "platform/ui/Dispatch.h"
+#include "platform/ui/FixedSize.h"
+#include "platform/vb/FixedArray.h"
+#include "platform/vb/VbError.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QSignalBlocker>
+#include <QStorageInfo>
+#include <QVBoxLayout>
+
+using Mdl_Access_mdb::StandardErrorBox;
+
+namespace {
+
+// the window's fixed size, in twips
+constexpr int kWidth = 6165;
+constexpr int kHeight = 5430;
+
+constexpr long kDeviceUnavailable = 68;
+
+} // namespace
+
+frm_Open::frm_Open()
+{
+    setObjectName(QStringLiteral("frm_Open"));
+    setWindowTitle(QStringLiteral("データ読み込み"));
+    buildMenus();
+    buildControls();
+}
+
+void frm_Open::buildMenus()
+{
+    MenuBar = new QMenuBar(this);
+    MenuBar->setObjectName(QStringLiteral("MenuBar"));
+    MenuBar->setNativeMenuBar(false);
+    Mnu_File = MenuBar->addMenu(QStringLiteral("ファイル"));
+    Mnu_File->setObjectName(QStringLiteral("Mnu_File"));
+    auto item = [this](const char* name, const char* caption) {
+        QAction* a = Mnu_File->addAction(QString::fromUtf8(caption));
+        a->setObjectName(QString::fromUtf8(name));
+        return a;
+    };
+    Mnu_ReadCSV = item("Mnu_ReadCSV", "Sondex ファイル読込み");
+    Mnu_Read_English = item("Mnu_Read_English", "Read Sondex Data (English) ");   // the blank is the caption's
+    Mnu_Close = item("Mnu_Close", "閉じる");
+
+    ui::Connect(Mnu_ReadCSV, &QAction::triggered, this, [this] { Mnu_ReadCSV_Click(); });
+    ui::Connect(Mnu_Read_English, &QAction::triggered, this, [this] { Mnu_Read_English_Click(); });
+    ui::Connect(Mnu_Close, &QAction::triggered, this, [this] { Mnu_Close_Click(); });
+}
+
+void frm_Open::buildControls()
+{
+    auto label = [this](const char* name, const char* caption, QWidget* buddy) {
+        auto* l = new QLabel(QString::fromUtf8(caption), this);
+        l->setObjectName(QString::fromUtf8(name));
+        l->setBuddy(buddy);
+        return l;
+    };
+    Drive1 = new DriveListBox(this);
+    Drive1->setObjectName(QStringLiteral("Drive1"));
+    Dir1 = new DirListBox(this);
+    Dir1->setObjectName(QStringLiteral("Dir1"));
+    File1 = new FileListBox(this);
+    File1->setObjectName(QStringLiteral("File1"));
+    Label1 = label("Label1", "ドライブ(&D)：", Drive1);
+    Label2 = label("Label2", "フォルダ(&R)：", Dir1);
+    Label3 = label("Label3", "ファイル(&N)：", File1);
+
+    Frame1 = new QGroupBox(QStringLiteral("ファイル名："), this);
+    Frame1->setObjectName(QStringLiteral("Frame1"));
+    lblCurName = new QLabel(Frame1);
+    lblCurName->setObjectName(QStringLiteral("lblCurName"));
+    lblCurName->setWordWrap(true);
+    lblCurName->setTextFormat(Qt::PlainText);
+    auto* frameLayout = new QVBoxLayout(Frame1);
+    frameLayout->setContentsMargins(6, 2, 6, 4);
+    frameLayout->addWidget(lblCurName);
+
+    ProgressBar1 = new QProgressBar(this);
+    ProgressBar1->setObjectName(QStringLiteral("ProgressBar1"));
+    ProgressBar1->setTextVisible(false);
+    // the bar's place stays kept while it is hidden, so that the lists do not jump when it shows
+    QSizePolicy keep = ProgressBar1->sizePolicy();
+    keep.setRetainSizeWhenHidden(true);
+    ProgressBar1->setSizePolicy(keep);
+
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(10);
+    grid->setVerticalSpacing(3);
+    grid->addWidget(Label1, 0, 0);
+    grid->addWidget(Drive1, 1, 0);
+    grid->addWidget(Label2, 2, 0);
+    grid->addWidget(Dir1, 3, 0);
+    grid->addWidget(Label3, 0, 1);
+    grid->addWidget(File1, 1, 1, 3, 1);
+    grid->setRowStretch(3, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setMenuBar(MenuBar);
+    layout->setContentsMargins(8, 6, 8, 8);
+    layout->setSpacing(6);
+    layout->addLayout(grid, 1);
+    layout->addWidget(Frame1);
+    layout->addWidget(ProgressBar1);
+
+    ui::Connect(Drive1, &DriveListBox::Change, this, [this] { Drive1_Change(); });
+    ui::Connect(Dir1, &DirListBox::Change, this, [this] { Dir1_Change(); });
+    ui::Connect(File1, &FileListBox::Click, this, [this] { File1_Click(); });
+}
+
+void frm_Open::Form_Load()
+{
+    ui::FixedSize::Apply(*this, kWidth, kHeight);
+    const QString folder = app::Path();
+    SetFileNames(folder);
+    // the program folder becomes the process's current folder, where the file dialogs open
+    QDir::setCurrent(folder);
+    {
+        // Choosing the drive would take Dir1 to the drive's root first; the program folder
+        // follows at once, so that detour is left out.
+        const QSignalBlocker quiet(Drive1);
+        Drive1->SetDrive(folder);
+    }
+    Dir1->SetPath(folder);   // Dir1_Change lists the folder in File1
+    File1->SetPath(folder);
+    File1->SetPattern(QStringLiteral("*.csv"));
+    Mnu_ReadCSV->setEnabled(false);
+    ProgressBar1->setVisible(false);
+    Mnu_Read_English->setEnabled(true);
+}
+
+QString frm_Open::JoinPath(const QString& folder, const QString& name)
+{
+    if (folder.endsWith(QLatin1Char('/')))
+        return folder + name;
+    return folder + QLatin1Char('/') + name;
+}
+
+void frm_Open::SetFileNames(const QString& path)
+{
+    FullPath = path;
+    FileTitle.clear();
+    const QFileInfo info(path);
+    if (info.isDir()) {
+        FolderPath = path;
+    } else if (!info.fileName().isEmpty()) {
+        // A path without a name part (one ending in "/") has no title: FolderPath stays as it was.
+        FileTitle = info.fileName();
+        FolderPath = FullPath.left(FullPath.size() - FileTitle.size());
+    }
+    lblCurName->setText(FullPath);
+}
+
+void frm_Open::Drive1_Change()
+{
+    try {
+        const QString drive = Drive1->Drive();
+        const QStorageInfo volume(drive);
+        // a mount point whose medium is gone or not ready counts as a drive without a disk
+        if (!QFileInfo(drive).isDir() || !volume.isValid() || !volume.isReady())
+            throw vb::VbError(kDeviceUnavailable, QStringLiteral("デバイスが準備されていません。"));
+        Dir1->SetPath(drive);
+    } catch (const vb::VbError& e) {
+        if (e.Number() == kDeviceUnavailable) {
+            ui::MsgBox(QStringLiteral("ディスクをセットしてください"));
+            // The list goes back to the drive of the folder still shown, rather than naming a
+            // drive that the folder list is not on.
+            const QSignalBlocker quiet(Drive1);
+            Drive1->SetDrive(Dir1->Path());
+            return;
+        }
+        StandardErrorBox(e);
+        app::End(0);
+    }
+}
+
+void frm_Open::Dir1_Change()
+{
+    File1->SetPath(Dir1->Path());
+    // the folder stands in all three, FileTitle included
+    FullPath = Dir1->Path();
+    FolderPath = Dir1->Path();
+    FileTitle = Dir1->Path();
+    lblCurName->setText(FullPath);
+}
+
+void frm_Open::File1_Click()
+{
+    const QListWidgetItem* current = File1->currentItem();
+    SetFileNames(JoinPath(File1->Path(), current ? current->text() : QString()));
+    if (!Mnu_ReadCSV->isEnabled())
+        Mnu_ReadCSV->setEnabled(true);
+}
+
+void frm_Open::Mnu_ReadCSV_Click() { readSelectedFiles(InventoryLanguage::Japanese); }
+
+void frm_Open::Mnu_Read_English_Click() { readSelectedFiles(InventoryLanguage::English); }
+
+void frm_Open::Mnu_Close_Click() { Unload(); }
+
+void frm_Open::readSelectedFiles(InventoryLanguage language)
+{
+    const bool japanese = language == InventoryLanguage::Japanese;
+    const int count = File1->count();
+    if (count == 0)
+        return;
+
+    // Up to the first selected file a failure ends the command: the English reader shows it,
+    // the Japanese one has no handler and the failure is fatal. From that file to the end every
+    // failing statement is skipped and the next one runs.
+    bool resuming = false;
+    auto step = [&resuming](auto&& statement) {
+        if (resuming)
+            vb::ResumeNext(statement);
+        else
+            statement();
+    };
+    try {
+        Mnu_ReadCSV->setEnabled(false);
+        if (japanese) {
+            ProgressBar1->setVisible(true);
+            // The bar follows the place in the whole list, 0 to the last index. A list of one
+            // file would give it no range at all, which the original's bar refused with an error
+            // that ended the read; here it gets one step and the read goes on.
+            ProgressBar1->setMinimum(0);
+            ProgressBar1->setMaximum(qMax(count - 1, 1));
+        }
+        {
+            // one reader for the run, whose key lives as long as the run; it has written
+            // everything to the ledger when it ends, before the end message shows
+            InventoryReader reader(language);
+            for (int i = 0; i < count; ++i) {
+                if (japanese)
+                    step([&] { ProgressBar1->setValue(i); });
+                if (!File1->item(i)->isSelected())
+                    continue;
+                const QString path = JoinPath(File1->Path(), File1->item(i)->text());
+                resuming = true;
+                // a refused file is skipped without a word
+                step([&] { reader.Read(path); });
+            }
+        }
+        step([&] { ui::MsgBox(japanese ? QStringLiteral("読み込みが完了しました。") : QStringLiteral("Process Comprete")); });
+        step([&] {
+            if (MainList* list = MainList::Instance())
+                list->fnc_View_PClist();
+        });
+        step([&] { Mnu_ReadCSV->setEnabled(false); });
+    } catch (const vb::VbError& e) {
+        if (japanese)
+            throw;
+        StandardErrorBox(e);
+    }
+}
