@@ -1,5 +1,8 @@
 #include "intake/DriveListBox.h"
 
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QStorageInfo>
 
@@ -7,12 +10,25 @@
 
 namespace {
 
-constexpr int kMountPointRole = Qt::UserRole;
+constexpr int kFolderRole = Qt::UserRole;
+constexpr int kKindRole = Qt::UserRole + 1;
 
-QString caption(const QString& mountPoint)
+// Where extra and removable disks are mounted: by hand under /mnt, by the desktop's automounter
+// under /media or /run/media, one or two levels down (with or without the user's name).
+bool IsMediaMount(const QString& mountPoint)
 {
-    const QString label = QStorageInfo(mountPoint).name();
-    return label.isEmpty() ? mountPoint : mountPoint + QStringLiteral(" [") + label + QStringLiteral("]");
+    static const QRegularExpression media(QStringLiteral("^(/mnt(/[^/]+)?|/media/[^/]+(/[^/]+)?|/run/media/[^/]+/[^/]+)$"));
+    return media.match(mountPoint).hasMatch();
+}
+
+QString Clean(const QString& path) { return QDir::cleanPath(QFileInfo(path).absoluteFilePath()); }
+
+// True when folder is path or one of its ancestors.
+bool Holds(const QString& folder, const QString& path)
+{
+    if (folder == QLatin1String("/"))
+        return path.startsWith(QLatin1Char('/'));
+    return path == folder || path.startsWith(folder + QLatin1Char('/'));
 }
 
 } // namespace
@@ -23,41 +39,72 @@ DriveListBox::DriveListBox(QWidget* parent) : QComboBox(parent)
     Refresh();
 }
 
-QString DriveListBox::Drive() const { return currentData(kMountPointRole).toString(); }
+QString DriveListBox::Drive() const { return currentData(kFolderRole).toString(); }
 
-int DriveListBox::AddDrive(const QString& mountPoint)
+int DriveListBox::addEntry(const QString& folder, Kind kind)
 {
-    const int found = findData(mountPoint, kMountPointRole);
+    const int found = findData(folder, kFolderRole);
     if (found >= 0)
         return found;
-    addItem(caption(mountPoint), mountPoint);
+    QString caption = folder;
+    if (kind == Volume) {
+        const QString label = QStorageInfo(folder).name();
+        if (!label.isEmpty() && label != QFileInfo(folder).fileName())
+            caption += QStringLiteral(" [") + label + QLatin1Char(']');
+    }
+    addItem(caption);
+    setItemData(count() - 1, folder, kFolderRole);
+    setItemData(count() - 1, int(kind), kKindRole);
+    setItemData(count() - 1, folder, Qt::ToolTipRole);
     return count() - 1;
 }
 
+int DriveListBox::AddDrive(const QString& mountPoint) { return addEntry(Clean(mountPoint), Volume); }
+
 void DriveListBox::SetDrive(const QString& path)
 {
-    const QStorageInfo volume(path);
-    setCurrentIndex(AddDrive(volume.isValid() ? volume.rootPath() : QStringLiteral("/")));
+    const QString target = Clean(path);
+    int best = -1;
+    for (int i = 0; i < count(); ++i) {
+        const QString folder = itemData(i, kFolderRole).toString();
+        if (Holds(folder, target) && (best < 0 || folder.size() > itemData(best, kFolderRole).toString().size()))
+            best = i;
+    }
+    setCurrentIndex(best >= 0 ? best : addEntry(QStringLiteral("/"), Root));
+}
+
+bool DriveListBox::DriveReady() const
+{
+    const QString folder = Drive();
+    if (folder.isEmpty() || !QFileInfo(folder).isDir())
+        return false;
+    if (currentData(kKindRole).toInt() != Volume)
+        return true;
+    // an empty mount point left behind by an unmounted disk is a folder of the volume above it
+    const QStorageInfo volume(folder);
+    return volume.isValid() && volume.isReady() && Clean(volume.rootPath()) == folder;
 }
 
 void DriveListBox::Refresh()
 {
     const QString chosen = Drive();
-    QStringList mountPoints;
+    const int chosenKind = currentData(kKindRole).toInt();
+    QStringList volumes;
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-        if (volume.isValid() && !mountPoints.contains(volume.rootPath()))
-            mountPoints << volume.rootPath();
+        const QString mountPoint = Clean(volume.rootPath());
+        if (volume.isValid() && IsMediaMount(mountPoint) && !volumes.contains(mountPoint))
+            volumes << mountPoint;
     }
-    mountPoints.removeAll(QStringLiteral("/"));
-    std::sort(mountPoints.begin(), mountPoints.end());
-    mountPoints.prepend(QStringLiteral("/"));
+    std::sort(volumes.begin(), volumes.end());
 
     const QSignalBlocker quiet(this);
     clear();
-    for (const QString& mountPoint : mountPoints)
-        AddDrive(mountPoint);
+    addEntry(QStringLiteral("/"), Root);
+    addEntry(Clean(QDir::homePath()), Home);
+    for (const QString& mountPoint : volumes)
+        addEntry(mountPoint, Volume);
     if (!chosen.isEmpty())
-        setCurrentIndex(AddDrive(chosen));
+        setCurrentIndex(addEntry(chosen, Kind(chosenKind)));
 }
 
 void DriveListBox::showPopup()

@@ -23,7 +23,6 @@
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QSignalBlocker>
-#include <QStorageInfo>
 #include <QVBoxLayout>
 
 using Mdl_Access_mdb::StandardErrorBox;
@@ -134,7 +133,7 @@ void frm_Open::Form_Load()
     ui::FixedSize::Apply(*this, kWidth, kHeight);
     const QString folder = app::Path();
     SetFileNames(folder);
-    // the program folder becomes the process's current folder, where the file dialogs open
+    // the lists start in the program folder, which also becomes the process's current folder
     QDir::setCurrent(folder);
     {
         // Choosing the drive would take Dir1 to the drive's root first; the program folder
@@ -175,12 +174,10 @@ void frm_Open::SetFileNames(const QString& path)
 void frm_Open::Drive1_Change()
 {
     try {
-        const QString drive = Drive1->Drive();
-        const QStorageInfo volume(drive);
-        // a mount point whose medium is gone or not ready counts as a drive without a disk
-        if (!QFileInfo(drive).isDir() || !volume.isValid() || !volume.isReady())
+        // a disk unmounted since the list was made counts as a drive without a medium
+        if (!Drive1->DriveReady())
             throw vb::VbError(kDeviceUnavailable, QStringLiteral("デバイスが準備されていません。"));
-        Dir1->SetPath(drive);
+        Dir1->SetPath(Drive1->Drive());
     } catch (const vb::VbError& e) {
         if (e.Number() == kDeviceUnavailable) {
             ui::MsgBox(QStringLiteral("ディスクをセットしてください"));
@@ -241,10 +238,10 @@ void frm_Open::readSelectedFiles(InventoryLanguage language)
         if (japanese) {
             ProgressBar1->setVisible(true);
             // The bar follows the place in the whole list, 0 to the last index. A list of one
-            // file would give it no range at all, which the original's bar refused with an error
-            // that ended the read; here it gets one step and the read goes on.
+            // file has no range (0 to 0), which a Qt bar shows as "busy" forever; it gets one
+            // step instead and is full at its one entry.
+            ProgressBar1->setMaximum(count > 1 ? count - 1 : 1);
             ProgressBar1->setMinimum(0);
-            ProgressBar1->setMaximum(qMax(count - 1, 1));
         }
         {
             // one reader for the run, whose key lives as long as the run; it has written
@@ -252,7 +249,11 @@ void frm_Open::readSelectedFiles(InventoryLanguage language)
             InventoryReader reader(language);
             for (int i = 0; i < count; ++i) {
                 if (japanese)
-                    step([&] { ProgressBar1->setValue(i); });
+                    step([&] {
+                        ProgressBar1->setValue(count > 1 ? i : 1);
+                        // the run holds the event loop: the bar is painted now or not at all
+                        ProgressBar1->repaint();
+                    });
                 if (!File1->item(i)->isSelected())
                     continue;
                 const QString path = JoinPath(File1->Path(), File1->item(i)->text());
