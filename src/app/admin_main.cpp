@@ -1,14 +1,18 @@
 // fenwold-admin: the companion program for scripts and administrators. It works on a ledger
 // without a window: makes an empty ledger, reads inventory files, writes the main list to a file.
+#include "assetlist/ExportListCommand.h"
 #include "intake/ReadCommand.h"
 #include "ledger/LedgerFile.h"
 #include "platform/ui/ConsoleDialogs.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QStringList>
 
 #include <cstdio>
+#include <cstring>
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -18,7 +22,8 @@ void printUsage(std::FILE* to)
                "\n"
                "commands:\n"
                "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
-               "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n",
+               "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
+               "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   write the main list to OUT as CSV\n",
                to);
 }
 
@@ -41,7 +46,14 @@ int newLedger(const QStringList& args)
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    // The list export fills the main list's grid, a widget, so that command runs under the widget
+    // application on the offscreen platform: it needs no display and shows nothing. The others
+    // need no more than the core application.
+    const bool widgets = argc > 1 && std::strcmp(argv[1], "export-list") == 0;
+    if (widgets)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const std::unique_ptr<QCoreApplication> application =
+        widgets ? std::make_unique<QApplication>(argc, argv) : std::make_unique<QCoreApplication>(argc, argv);
     ui::ConsoleDialogs console;
     ui::SetDialogs(&console);
 
@@ -54,6 +66,7 @@ int main(int argc, char** argv)
     const std::pair<const char*, std::function<int(const QStringList&)>> commands[] = {
         {"new-ledger", newLedger},
         {"read", ReadCommand},
+        {"export-list", ExportListCommand},
     };
     for (const auto& [name, run] : commands)
         if (command == QLatin1String(name))

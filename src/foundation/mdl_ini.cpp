@@ -11,9 +11,17 @@ namespace mdl_ini {
 
 namespace {
 void failureBox() { ui::MsgBox(QStringLiteral("iniファイル書き込み失敗")); }
+
+QString& pathOverride()
+{
+    static QString path;
+    return path;
+}
 } // namespace
 
-QString IniPath() { return app::Path() + QStringLiteral("/DB.ini"); }
+QString IniPath() { return pathOverride().isEmpty() ? app::Path() + QStringLiteral("/DB.ini") : pathOverride(); }
+
+void SetIniPath(const QString& path) { pathOverride() = path; }
 
 QString IniRead(const QString& section, const QString& key)
 {

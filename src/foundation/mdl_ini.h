@@ -8,8 +8,11 @@
 // The settings file DB.ini beside the program: the two file operations every window uses.
 namespace mdl_ini {
 
-// The path of the settings file: the program's folder and "DB.ini".
+// The path of the settings file: the program's folder and "DB.ini", or the file set below.
 QString IniPath();
+// Points every read and write at another settings file (fenwold-admin's --ini); an empty path
+// goes back to DB.ini beside the program.
+void SetIniPath(const QString& path);
 
 // The value of section/key, "" when absent; at most 255 bytes, as the read buffer held.
 QString IniRead(const QString& section, const QString& key);
