@@ -1,0 +1,338 @@
+#include "AssetListFixture.h"
+
+#include "assetlist/ListCommands.h"
+#include "platform/vb/VbError.h"
+
+#include <set>
+#include <utility>
+#include <vector>
+
+using namespace Mdl_gData;
+
+namespace {
+
+using Menus = std::vector<std::pair<MainList::MenuItem, bool>>;
+
+class ListCommandsTest : public AssetListFixture {
+protected:
+    void SetUp() override
+    {
+        AssetListFixture::SetUp();
+        list->SetMenuEnabled = [this](MainList::MenuItem item, bool on) { menus.emplace_back(item, on); };
+    }
+
+    // Selects the listed computer with this key as a click on its row does.
+    void select(int key)
+    {
+        for (int row = 1; row < grid->Rows(); ++row) {
+            if (grid->TextMatrix(row, 1) == QString::number(key)) {
+                grid->SetRow(row);
+                list->MSFlexGrid_Main_Click();
+                menus.clear();
+                return;
+            }
+        }
+        FAIL() << "computer " << key << " is not listed";
+    }
+
+    // The keys of the listed computers, in list order.
+    QStringList listedKeys() const
+    {
+        QStringList out;
+        for (int row = 1; row < grid->Rows(); ++row)
+            out << grid->TextMatrix(row, 1);
+        return out;
+    }
+
+    // The texts of the data cells painted yellow.
+    std::set<QString> marked() const
+    {
+        std::set<QString> out;
+        for (int row = 1; row < grid->Rows(); ++row)
+            for (int col = 1; col < grid->Cols(); ++col)
+                if (back(row, col) == QColor(255, 255, 0))
+                    out.insert(grid->TextMatrix(row, col));
+        return out;
+    }
+
+    int count(const QString& table, const QString& where) const
+    {
+        return const_cast<TempLedger&>(ledger).value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
+    }
+
+    void expectQuestion(const ScriptedDialogs::Call& call, const QString& text)
+    {
+        EXPECT_EQ(call.kind, ScriptedDialogs::Call::Message);
+        EXPECT_EQ(call.prompt, text);
+        EXPECT_EQ(call.title, QStringLiteral("確認"));
+        EXPECT_EQ(call.buttons, ui::vbYesNo | ui::vbQuestion);
+    }
+    void expectNotice(const ScriptedDialogs::Call& call, const QString& text)
+    {
+        EXPECT_EQ(call.kind, ScriptedDialogs::Call::Message);
+        EXPECT_EQ(call.prompt, text);
+        EXPECT_EQ(call.title, app::Title());
+        EXPECT_EQ(call.buttons, ui::vbOKOnly);
+    }
+
+    Menus menus;
+};
+
+TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
+{
+    // a fresh ledger lists nothing, so the list is not ready and the command stays silent
+    writeColumns(0, {8});
+    EXPECT_FALSE(loadList());
+    ListCommands::Mnu_AddNew(*list);
+    EXPECT_TRUE(dialogs.calls().empty());
+    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey <> 0")), 0);
+
+    // a computer made by an inventory read makes the list ready
+    computer(1, 0, 0, QStringLiteral("Computer_Name = 'PC-SOUMU-01'"));
+    ASSERT_TRUE(loadList());
+    dialogs.answerMessage(ui::vbNo);
+    ListCommands::Mnu_AddNew(*list);
+    ASSERT_EQ(dialogs.calls().size(), 1u);
+    expectQuestion(dialogs.calls()[0], QStringLiteral("レコードを新規作成しますか？"));
+    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey = 2")), 0);
+
+    dialogs.clear();
+    list->CurrentMainKey = 1;
+    ListCommands::Mnu_AddNew(*list);
+    ASSERT_EQ(dialogs.calls().size(), 2u);
+    expectQuestion(dialogs.calls()[0], QStringLiteral("レコードを新規作成しますか？"));
+    expectNotice(dialogs.calls()[1], QStringLiteral("レコードを新規作成しました"));
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
+                                         "Deleted_Flug, Remove_Date FROM tbl_Computer_List WHERE MainKey = 2")),
+              QStringList{QStringLiteral("2|0|0|0|0|0|NULL")});
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Computer_Name FROM tbl_Pclist WHERE MainKey = 2")),
+              QStringList{QStringLiteral("2|NULL")});
+    // listed on the code-0 masters, and the refreshed list has no selection
+    EXPECT_EQ(listedKeys(), (QStringList{"1", "2"}));
+    EXPECT_EQ(rowTexts(2), (QStringList{"2", "2", ""}));
+    EXPECT_EQ(list->CurrentMainKey, 0);
+    EXPECT_EQ(back(1, 2), white());
+    EXPECT_TRUE(menus.empty());
+}
+
+TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLines)
+{
+    const QString tables[] = {QStringLiteral("tbl_ApplicationsList"), QStringLiteral("tbl_Computer_List"),
+                              QStringLiteral("tbl_Device_Management"), QStringLiteral("tbl_Environmental"),
+                              QStringLiteral("tbl_Pclist"), QStringLiteral("tbl_Printer_Management"),
+                              QStringLiteral("tbl_Mail_Management"), QStringLiteral("tbl_License_Dat")};
+    const QString keyColumns[] = {QStringLiteral("\"Key\""), QStringLiteral("MainKey"), QStringLiteral("\"Key\""),
+                                  QStringLiteral("\"Key\""), QStringLiteral("MainKey"), QStringLiteral("\"Key\""),
+                                  QStringLiteral("Conputer_Code"), QStringLiteral("Computer_Code")};
+    // computers 3 and 5 with rows everywhere, 8 with its two rows only
+    int registerKey = 1;
+    for (int key : {3, 5}) {
+        computer(key, 0, 0, QStringLiteral("Computer_Name = 'PC-%1'").arg(key));
+        for (int n = 0; n < 2; ++n)
+            ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (%1, 'App%2')").arg(key).arg(n));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Device_Management (\"Key\", Device_Name) VALUES (%1, 'Disk')").arg(key));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Environmental (\"Key\", Environmental_Name) VALUES (%1, 'PATH')").arg(key));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Printer_Management (\"Key\", Printer_Name) VALUES (%1, 'LP')").arg(key));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Mail_Management (\"Key\", Conputer_Code) VALUES (%1, %2)").arg(registerKey).arg(key));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_License_Dat (\"Key\", Computer_Code) VALUES (%1, %2)").arg(registerKey).arg(key));
+        ++registerKey;
+    }
+    computer(8, 0, 0, QStringLiteral("Computer_Name = 'PC-8'"));
+    writeColumns(0, {8});
+    ASSERT_TRUE(loadList());
+
+    const QString report = QStringLiteral("アプリケーション一覧を削除しました。\r\n"
+                                          "ユーザ登録一覧を削除しました。\r\n"
+                                          "デバイス一覧を削除しました。\r\n"
+                                          "環境変数一覧を削除しました。\r\n"
+                                          "コンピュータ一覧を削除しました。\r\n"
+                                          "プリンタ一覧を削除しました。\r\n"
+                                          "メール一覧を削除しました。\r\n"
+                                          "ライセンス一覧を削除しました。\r\n");
+
+    // without a selection, and when the answer is No, nothing happens
+    ListCommands::Mnu_Delete(*list);
+    EXPECT_TRUE(dialogs.calls().empty());
+    select(3);
+    dialogs.answerMessage(ui::vbNo);
+    ListCommands::Mnu_Delete(*list);
+    ASSERT_EQ(dialogs.calls().size(), 1u);
+    EXPECT_EQ(count(tables[0], QStringLiteral("\"Key\" = 3")), 2);
+
+    dialogs.clear();
+    select(3);
+    ListCommands::Mnu_Delete(*list);
+    ASSERT_EQ(dialogs.calls().size(), 2u);
+    expectQuestion(dialogs.calls()[0], QStringLiteral("削除しますか？"));
+    expectNotice(dialogs.calls()[1], report);
+    for (size_t i = 0; i < std::size(tables); ++i) {
+        EXPECT_EQ(count(tables[i], keyColumns[i] + QStringLiteral(" = 3")), 0) << tables[i].toStdString();
+        EXPECT_GE(count(tables[i], keyColumns[i] + QStringLiteral(" = 5")), 1) << tables[i].toStdString();
+    }
+    EXPECT_EQ(listedKeys(), (QStringList{"5", "8"}));
+    EXPECT_EQ(list->CurrentMainKey, 0);
+    EXPECT_TRUE(list->ListReady);
+    EXPECT_EQ(menus, (Menus{{MainList::Mnu_Delete, false}}));
+
+    // a computer with nothing hanging on it reports the same eight lines
+    dialogs.clear();
+    select(8);
+    ListCommands::Mnu_Delete(*list);
+    ASSERT_EQ(dialogs.messageTexts().size(), 2);
+    EXPECT_EQ(dialogs.messageTexts()[1], report);
+    EXPECT_EQ(count(QStringLiteral("tbl_Pclist"), QStringLiteral("MainKey = 8")), 0);
+
+    // after the last listed computer is gone the list is not ready: no new record until a fill
+    // finds rows again
+    select(5);
+    ListCommands::Mnu_Delete(*list);
+    EXPECT_EQ(grid->Rows(), 0);
+    EXPECT_FALSE(list->ListReady);
+    dialogs.clear();
+    ListCommands::Mnu_AddNew(*list);
+    EXPECT_TRUE(dialogs.calls().empty());
+    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 1);   // computer 0
+}
+
+TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheRemovedView)
+{
+    computer(4, 0, 0, QStringLiteral("Computer_Name = 'PC-4'"));
+    computer(6, 0, 0, QStringLiteral("Computer_Name = 'PC-6'"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (4, 'Editor')"));
+    writeColumns(0, {8, 75});
+    writeColumns(1, {8, 75});
+    writeView(1, {{QStringLiteral("OptDel"), QStringLiteral("1")}});
+    ASSERT_TRUE(loadList());
+    select(4);
+    const QString stored = QStringLiteral("SELECT Deleted_Flug, Remove_Date FROM tbl_Computer_List WHERE MainKey = 4");
+
+    dialogs.answerMessage(ui::vbNo);
+    ListCommands::Mnu_ReplacePC(*list);
+    ASSERT_EQ(dialogs.calls().size(), 1u);
+    expectQuestion(dialogs.calls()[0], QStringLiteral("撤去処理しますか？"));
+
+    // each of these ends the command without a word and without a change
+    const std::optional<QString> refused[] = {
+        QStringLiteral("2005/13/01"), QStringLiteral("2005-12-04"), std::nullopt,   QStringLiteral("2005/12/00"),
+        QStringLiteral("2005/12/32"), QStringLiteral("2005/00/10"), QStringLiteral("2005/1/4"), QStringLiteral("2005/ab/01"),
+        QStringLiteral("2005/12/4"),  QStringLiteral("2005/12/041"),
+    };
+    for (const auto& answer : refused) {
+        const std::string name = answer.value_or(QStringLiteral("(cancel)")).toStdString();
+        dialogs.clear();
+        dialogs.answerInput(answer);
+        ListCommands::Mnu_ReplacePC(*list);
+        ASSERT_EQ(dialogs.calls().size(), 2u) << name;
+        EXPECT_EQ(dialogs.calls()[1].kind, ScriptedDialogs::Call::Input) << name;
+        EXPECT_EQ(ledger.value(stored), QStringLiteral("0")) << name;
+        EXPECT_EQ(list->CurrentMainKey, 4) << name;
+        EXPECT_TRUE(menus.empty()) << name;
+    }
+    EXPECT_EQ(ledger.rows(stored), QStringList{QStringLiteral("0|NULL")});
+
+    dialogs.clear();
+    dialogs.answerInput(QStringLiteral("2005/12/04"));
+    ListCommands::Mnu_ReplacePC(*list);
+    ASSERT_EQ(dialogs.calls().size(), 2u);
+    EXPECT_EQ(dialogs.calls()[1].prompt, QStringLiteral("撤去日を入力してください(例2005/12/04) "));
+    EXPECT_EQ(dialogs.calls()[1].title, QStringLiteral("撤去処理"));
+    EXPECT_EQ(ledger.rows(stored), QStringList{QStringLiteral("1|2005/12/04")});
+    EXPECT_EQ(count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 4")), 1);
+    EXPECT_EQ(listedKeys(), QStringList{"6"});
+    EXPECT_EQ(list->CurrentMainKey, 0);
+    EXPECT_EQ(menus, (Menus{{MainList::Mnu_ReplacePC, false}}));
+
+    // the view of removed computers lists it with its date
+    SectionNumber = 1;
+    ASSERT_TRUE(loadList());
+    EXPECT_EQ(rowTexts(1), (QStringList{"1", "4", "PC-4", "2005/12/04"}));
+    EXPECT_EQ(grid->Rows(), 2);
+
+    // The form is all that is checked: a day the month does not have reaches the ledger, which
+    // refuses it, and with no handler on the way the failure goes up to the event's dispatcher.
+    SectionNumber = 0;
+    ASSERT_TRUE(loadList());
+    select(6);
+    dialogs.answerInput(QStringLiteral("2005/02/31"));
+    EXPECT_THROW(ListCommands::Mnu_ReplacePC(*list), vb::VbError);
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Deleted_Flug FROM tbl_Computer_List WHERE MainKey = 6")), QStringLiteral("0"));
+}
+
+TEST_F(ListCommandsTest, SearchMarksTheCellsThatBeginWithTheWord)
+{
+    computer(1, 0, 0, QStringLiteral("Computer_Name = 'PC-A1', Workgroup = 'WG-PC'"));
+    computer(2, 0, 0, QStringLiteral("Computer_Name = 'PC-B2', Workgroup = 'pc-lower'"));
+    computer(3, 0, 0, QStringLiteral("Computer_Name = 'XPC-A', Workgroup = 'PC#9'"));
+    writeColumns(0, {8, 9});
+    ASSERT_TRUE(loadList());
+    select(2);
+
+    const struct {
+        const char* word;
+        std::set<QString> marks;
+    } cases[] = {
+        {"PC-A", {"PC-A1"}},                       // not in the middle of a cell
+        {"PC", {"PC-A1", "PC-B2", "PC#9"}},        // exact case
+        {"PC-?2", {"PC-B2"}},
+        {"PC-A#", {"PC-A1"}},                      // "#" a digit
+        {"PC[#]", {"PC#9"}},                       // "[#]" the character itself
+        {"*A", {"PC-A1", "XPC-A"}},
+        {"[!P]", {"1", "2", "3", "WG-PC", "pc-lower", "XPC-A"}},   // the hidden keys too
+        {"pc-A", {}},
+        {"[PC", {}},                               // an unclosed set matches nothing
+    };
+    for (const auto& c : cases) {
+        dialogs.clear();
+        dialogs.answerInput(QString::fromUtf8(c.word));
+        ListCommands::Mnu_Search(*list);
+        EXPECT_EQ(marked(), c.marks) << c.word;
+        EXPECT_TRUE(grid->Visible()) << c.word;
+        ASSERT_EQ(dialogs.calls().size(), c.marks.empty() ? 2u : 1u) << c.word;
+        EXPECT_EQ(dialogs.calls()[0].prompt, QStringLiteral("検索する単語を入力してください"));
+        EXPECT_EQ(dialogs.calls()[0].title, QStringLiteral("検索"));
+        if (c.marks.empty())
+            expectNotice(dialogs.calls()[1], QStringLiteral("見つかりませんでした"));
+        // the list was read again: no selection, every other data cell white
+        EXPECT_EQ(list->CurrentMainKey, 0) << c.word;
+        for (int row = 1; row < grid->Rows(); ++row) {
+            for (int col = 1; col < grid->Cols(); ++col) {
+                if (!c.marks.count(grid->TextMatrix(row, col))) {
+                    EXPECT_EQ(back(row, col), white()) << c.word << " " << row << "," << col;
+                }
+            }
+        }
+    }
+
+    // an empty answer ends the search before the list is read again: the marks stay
+    dialogs.clear();
+    dialogs.answerInput(QStringLiteral("PC"));
+    ListCommands::Mnu_Search(*list);
+    dialogs.answerInput(std::nullopt);
+    ListCommands::Mnu_Search(*list);
+    EXPECT_EQ(marked(), (std::set<QString>{"PC-A1", "PC-B2", "PC#9"}));
+    EXPECT_EQ(dialogs.messageTexts().size(), 0);
+    EXPECT_TRUE(menus.empty());
+}
+
+TEST_F(ListCommandsTest, RefreshReadsTheLedgerAgainAndDropsTheSelection)
+{
+    computer(1, 0, 0, QStringLiteral("Computer_Name = 'PC-OLD'"));
+    writeColumns(0, {8});
+    ASSERT_TRUE(loadList());
+    dialogs.answerInput(QStringLiteral("PC"));
+    ListCommands::Mnu_Search(*list);
+    select(1);
+    ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = 'PC-NEW' WHERE MainKey = 1"));
+    computer(2, 0, 0, QStringLiteral("Computer_Name = 'PC-2'"));
+
+    ListCommands::Mnu_ViewUpdate(*list);
+    EXPECT_EQ(rowTexts(1), (QStringList{"1", "1", "PC-NEW"}));
+    EXPECT_EQ(listedKeys(), (QStringList{"1", "2"}));
+    EXPECT_EQ(list->CurrentMainKey, 0);
+    EXPECT_TRUE(marked().empty());
+    EXPECT_EQ(back(1, 2), white());
+    EXPECT_EQ(menus, (Menus{{MainList::Mnu_Edit_profile, false}, {MainList::Mnu_Delete, false}, {MainList::Mnu_ReplacePC, false}}));
+    EXPECT_EQ(dialogs.messageTexts().size(), 0);
+}
+
+} // namespace
