@@ -1,5 +1,7 @@
 #include "shell/frm_Main.h"
 
+#include "assetlist/ListCommands.h"
+#include "assetlist/ListExport.h"
 #include "assetlist/ListQuery.h"
 #include "assetlist/MainList.h"
 #include "foundation/Mdl_Access_mdb.h"
@@ -161,7 +163,12 @@ void frm_Main::buildMenus()
     };
     on(Mnu_Read_Sondex, &frm_Main::Mnu_Read_Sondex_Click);
     on(Mnu_View_INPORT, &frm_Main::Mnu_View_INPORT_Click);
+    on(Mnu_View_EXPORT, &frm_Main::Mnu_View_EXPORT_Click);
     on(Mnu_Program_Quit, &frm_Main::Mnu_Program_Quit_Click);
+    on(Mnu_AddNew, &frm_Main::Mnu_AddNew_Click);
+    on(Mnu_Search, &frm_Main::Mnu_Search_Click);
+    on(Mnu_Delete, &frm_Main::Mnu_Delete_Click);
+    on(Mnu_ReplacePC, &frm_Main::Mnu_ReplacePC_Click);
     on(Mnu_Edit_Users, &frm_Main::Mnu_Edit_Users_Click);
     for (int i = 1; i <= 5; ++i)
         ui::Connect(Mnu_Edit_Table[size_t(i)], &QAction::triggered, this, [this, i] { Mnu_Edit_Table_Click(i); });
@@ -172,9 +179,8 @@ void frm_Main::buildMenus()
     on(View_ApplicationList, &frm_Main::View_ApplicationList_Click);
     on(Mnu_PrinterList, &frm_Main::Mnu_PrinterList_Click);
     on(Mnu_About, &frm_Main::Mnu_About_Click);
+    on(Mnu_ViewUpdate, &frm_Main::Mnu_ViewUpdate_Click);
     on(Mnu_View_Select, &frm_Main::Mnu_View_Select_Click);
-    // Mnu_View_EXPORT, Mnu_AddNew, Mnu_Search, Mnu_Delete, Mnu_ReplacePC and Mnu_ViewUpdate are
-    // the list commands; they are connected when the list commands are built and do nothing yet.
 }
 
 void frm_Main::buildClientArea()
@@ -359,6 +365,40 @@ void frm_Main::Mnu_View_INPORT_Click()
 {
     storeGeometryForOpenedWindow();
     ShellWindows::frm_Inport().Show(ui::vbModeless);
+}
+
+// The list commands work on the list, which exists once the load has passed the previous-instance
+// test; the export writes the grid as it is shown.
+void frm_Main::Mnu_View_EXPORT_Click() { ListExport::ExportGrid(*MSFlexGrid_Main, QStringLiteral("CSV書き出し")); }
+
+void frm_Main::Mnu_AddNew_Click()
+{
+    if (m_list)
+        ListCommands::Mnu_AddNew(*m_list);
+}
+
+void frm_Main::Mnu_Search_Click()
+{
+    if (m_list)
+        ListCommands::Mnu_Search(*m_list);
+}
+
+void frm_Main::Mnu_Delete_Click()
+{
+    if (m_list)
+        ListCommands::Mnu_Delete(*m_list);
+}
+
+void frm_Main::Mnu_ReplacePC_Click()
+{
+    if (m_list)
+        ListCommands::Mnu_ReplacePC(*m_list);
+}
+
+void frm_Main::Mnu_ViewUpdate_Click()
+{
+    if (m_list)
+        ListCommands::Mnu_ViewUpdate(*m_list);
 }
 
 void frm_Main::Mnu_Edit_Users_Click()

@@ -68,7 +68,12 @@ public:
     // the menu commands and grid events of this window
     void Mnu_Read_Sondex_Click();
     void Mnu_View_INPORT_Click();
+    void Mnu_View_EXPORT_Click();
     void Mnu_Program_Quit_Click();
+    void Mnu_AddNew_Click();
+    void Mnu_Search_Click();
+    void Mnu_Delete_Click();
+    void Mnu_ReplacePC_Click();
     void Mnu_Edit_Users_Click();
     void Mnu_Edit_Table_Click(int index);
     void Mnu_Edit_profile_Click();
@@ -78,6 +83,7 @@ public:
     void View_ApplicationList_Click();
     void Mnu_PrinterList_Click();
     void Mnu_About_Click();
+    void Mnu_ViewUpdate_Click();
     void Mnu_View_Select_Click();
     void MSFlexGrid_Main_Click();
     void MSFlexGrid_Main_DblClick();
