@@ -1,5 +1,6 @@
 #include "shell/ShellWindows.h"
 
+#include "assetlist/frm_SelectView.h"
 #include "intake/frm_Open.h"
 #include "platform/ui/FormInstance.h"
 #include "shell/PlaceholderForm.h"
@@ -85,7 +86,7 @@ ui::Form& frm_List_Printer()
 
 ui::Form& frm_SelectView()
 {
-    static ui::FormInstance<ui::Form> instance(placeholder("frm_SelectView"));
+    static ui::FormInstance<::frm_SelectView> instance;
     return instance();
 }
 
