@@ -113,6 +113,13 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
     EXPECT_EQ(list->CurrentMainKey, 0);
     EXPECT_EQ(back(1, 2), white());
     EXPECT_TRUE(menus.empty());
+
+    // there is no key after 32767: the overflow is shown and nothing is written
+    computer(32767);
+    dialogs.clear();
+    ListCommands::Mnu_AddNew(*list);
+    EXPECT_EQ(errorBoxes(), std::vector<long>{6});
+    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 4);
 }
 
 TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLines)
