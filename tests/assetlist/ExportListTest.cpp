@@ -1,0 +1,299 @@
+// The list export: fenwold-admin export-list run as a process the way scripts run it, against
+// the expected files and against the main window's own export of the same view.
+#include "AssetListFixture.h"
+
+#include "assetlist/ListExport.h"
+#include "platform/text/Cp932.h"
+#include "platform/vb/Conversion.h"
+
+#include "TestPaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+
+using namespace Mdl_gData;
+
+namespace {
+
+struct AdminRun {
+    int exitCode = -1;
+    QString err;
+};
+
+AdminRun Admin(const QStringList& args, const QString& program = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"))
+{
+    QProcess p;
+    p.start(program, args);
+    AdminRun r;
+    if (!p.waitForFinished(60000)) {
+        ADD_FAILURE() << "fenwold-admin did not finish";
+        return r;
+    }
+    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
+    r.err = QString::fromUtf8(p.readAllStandardError());
+    return r;
+}
+
+QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
+
+QByteArray FileBytes(const QString& path)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly)) {
+        ADD_FAILURE() << "no file " << path.toStdString();
+        return {};
+    }
+    return f.readAll();
+}
+
+// A settings file as the view window leaves it: code page 932, CR LF.
+QByteArray Settings(const QStringList& lines) { return text::ToCp932(QString(lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n"))); }
+
+// View 1, the current one: installed computers by location, then by name from Z to A, with
+// capacities, connection flags, a drive flag no inventory file fills, and the location, whose
+// entry "本館2F" is retired. View 2: the removed computers with their removal date.
+const QStringList kTwoViews = {
+    QStringLiteral("[Main]"),
+    QStringLiteral("SectionNumber=1"),
+    QStringLiteral("SectionName1=設置場所順"),
+    QStringLiteral("SectionName2=撤去済み"),
+    QStringLiteral("[1]"),
+    QStringLiteral("OptDel=0"),
+    QStringLiteral("SelectNumber=2"),
+    QStringLiteral("KeyName0=Location_Name"),
+    QStringLiteral("KeyCaption0=設置場所"),
+    QStringLiteral("KeyASCDESC0=ASC"),
+    QStringLiteral("KeyName1=Computer_Name"),
+    QStringLiteral("KeyCaption1=コンピュータ名"),
+    QStringLiteral("KeyASCDESC1=DESC"),
+    QStringLiteral("MSFlexGrit_SelectNum=13"),
+    QStringLiteral("MSFlexGrit_Select1=1"),
+    QStringLiteral("MSFlexGrit_Select2=8"),
+    QStringLiteral("MSFlexGrit_Select3=10"),
+    QStringLiteral("MSFlexGrit_Select4=17"),
+    QStringLiteral("MSFlexGrit_Select5=26"),
+    QStringLiteral("MSFlexGrit_Select6=28"),
+    QStringLiteral("MSFlexGrit_Select7=30"),
+    QStringLiteral("MSFlexGrit_Select8=32"),
+    QStringLiteral("MSFlexGrit_Select9=36"),
+    QStringLiteral("MSFlexGrit_Select10=43"),
+    QStringLiteral("MSFlexGrit_Select11=44"),
+    QStringLiteral("MSFlexGrit_Select12=45"),
+    QStringLiteral("MSFlexGrit_Select13=65"),
+    QStringLiteral("[2]"),
+    QStringLiteral("OptDel=1"),
+    QStringLiteral("SelectNumber=0"),
+    QStringLiteral("MSFlexGrit_SelectNum=5"),
+    QStringLiteral("MSFlexGrit_Select1=8"),
+    QStringLiteral("MSFlexGrit_Select2=16"),
+    QStringLiteral("MSFlexGrit_Select3=65"),
+    QStringLiteral("MSFlexGrit_Select4=75"),
+    QStringLiteral("MSFlexGrit_Select5=76"),
+};
+
+class ExportListTest : public AssetListFixture {
+protected:
+    // Four computers read from inventory files, keys 1 to 4 (the fourth a second reading of the
+    // first file), on two locations; computer 4 retired as the list's retire command leaves it.
+    void fillLedger()
+    {
+        const QString ledgerPath = ledger.path();
+        EXPECT_EQ(Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledgerPath, Inventory(QStringLiteral("ja_pc01.csv")),
+                         Inventory(QStringLiteral("ja_pc03.txt"))})
+                      .exitCode,
+                  0);
+        EXPECT_EQ(Admin({QStringLiteral("read"), QStringLiteral("--english"), QStringLiteral("--ledger"), ledgerPath,
+                         Inventory(QStringLiteral("en_pc02.csv"))})
+                      .exitCode,
+                  0);
+        EXPECT_EQ(Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledgerPath, Inventory(QStringLiteral("ja_pc01.csv"))}).exitCode, 0);
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (1, '本館2F', '', '1'), (2, '本館1F', '', '0')"));
+        ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 1 WHERE MainKey IN (1, 4)"));
+        ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 2 WHERE MainKey IN (2, 3)"));
+        ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1, Remove_Date = '2006/03/31' WHERE MainKey = 4"));
+        ASSERT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey > 0")), QStringLiteral("4"));
+    }
+    void writeSettings(const QStringList& lines) { ledger.dir().write(QStringLiteral("DB.ini"), Settings(lines)); }
+    QString settingsPath() const { return ledger.dir().file(QStringLiteral("DB.ini")); }
+
+    // The main window's load: the current view from the settings file, then the list.
+    void windowLoad()
+    {
+        const QString section = mdl_ini::IniRead(QStringLiteral("Main"), QStringLiteral("SectionNumber"));
+        SectionNumber = section.isEmpty() ? std::int16_t(0) : vb::CInt(section);
+        loadList();
+    }
+    // What the console dialogs print for the last message box the window showed.
+    QString lastBoxOnConsole() const
+    {
+        const auto boxes = dialogs.messages();
+        if (boxes.empty())
+            return QStringLiteral("(no message box)");
+        QString text = boxes.back().prompt;
+        return boxes.back().title + QStringLiteral(": ") + text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).trimmed();
+    }
+
+    TempDir out;
+};
+
+TEST_F(ExportListTest, TheCommandWritesEachViewAsTheWindowsExportDoes)
+{
+    fillLedger();
+    writeSettings(kTwoViews);
+    const QByteArray view1 = ReadTestData(QStringLiteral("export/view1.csv"));
+    const QByteArray view2 = ReadTestData(QStringLiteral("export/view2.csv"));
+
+    // the current view of the settings file, and view 2 by number; the name is used as given
+    AdminRun r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"), settingsPath(),
+                        out.file(QStringLiteral("current"))});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("current"))), view1);
+    r = Admin({QStringLiteral("export-list"), QStringLiteral("--view"), QStringLiteral("2"), QStringLiteral("--ini"), settingsPath(),
+               QStringLiteral("--ledger"), ledger.path(), out.file(QStringLiteral("removed.txt"))});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("removed.txt"))), view2);
+    EXPECT_FALSE(r.err.contains(QStringLiteral("警告"))) << r.err.toStdString();
+
+    // the window, offscreen, over the same ledger and settings: its export adds ".csv" always
+    windowLoad();
+    dialogs.answerFile(out.file(QStringLiteral("window1")));
+    ListExport::ExportGrid(*grid, QStringLiteral("CSV書き出し"));
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("window1.csv"))), view1);
+    SectionNumber = 2;
+    loadList();
+    dialogs.answerFile(out.file(QStringLiteral("window2.csv")));
+    ListExport::ExportGrid(*grid, QStringLiteral("CSV書き出し"));
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("window2.csv.csv"))), view2);
+    EXPECT_EQ(dialogs.messageTexts(), (QStringList{QStringLiteral("完了しました"), QStringLiteral("完了しました")}));
+
+    // without options: pcdb.mdb and DB.ini beside the program
+    const QString program = ledger.dir().file(QStringLiteral("fenwold-admin"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), program));
+    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    r = Admin({QStringLiteral("export-list"), out.file(QStringLiteral("beside"))}, program);
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("beside"))), view1);
+
+    // a missing settings file is view 0 without columns: the hidden key alone, in the query's order
+    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"),
+               out.file(QStringLiteral("none.ini")), out.file(QStringLiteral("keys"))});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("keys"))), QByteArray(" , \r\n1, \r\n2, \r\n3, \r\n"));
+}
+
+TEST_F(ExportListTest, AListWithoutRowsIsAnEmptyFile)
+{
+    // the empty ledger holds only computer 0, which is neither installed nor removed
+    writeSettings({QStringLiteral("[Main]"), QStringLiteral("SectionNumber=2"), QStringLiteral("[2]"), QStringLiteral("OptDel=1"),
+                   QStringLiteral("MSFlexGrit_SelectNum=1"), QStringLiteral("MSFlexGrit_Select1=8")});
+    out.write(QStringLiteral("list.csv"), QByteArray("an older export\r\n"));
+    const AdminRun r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"),
+                              settingsPath(), out.file(QStringLiteral("list.csv"))});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_TRUE(QFile::exists(out.file(QStringLiteral("list.csv"))));
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("list.csv"))), QByteArray());
+}
+
+TEST_F(ExportListTest, FailuresPrintTheWindowsErrorBoxAndEndWithStatusOne)
+{
+    computer(5, 0, 0, QStringLiteral("Computer_Name = 'PC-A'"));
+    const QString target = out.file(QStringLiteral("list.csv"));
+    const auto run = [&](const QStringList& settings, const QStringList& extra = {}) {
+        writeSettings(settings);
+        return Admin(QStringList{QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"), settingsPath()}
+                     + extra + QStringList{target});
+    };
+
+    // a sort key the engine does not know fails when the list is opened; the command prints
+    // what the window's error box shows, and writes nothing
+    const QStringList unknownKey = {QStringLiteral("[Main]"), QStringLiteral("SectionNumber=3"), QStringLiteral("[3]"),
+                                    QStringLiteral("SelectNumber=1"), QStringLiteral("KeyName0=Computer_Nmae"),
+                                    QStringLiteral("KeyASCDESC0=ASC")};
+    AdminRun r = run(unknownKey);
+    EXPECT_EQ(r.exitCode, 1);
+    windowLoad();
+    ASSERT_EQ(errorBoxes().size(), 1u);
+    EXPECT_TRUE(r.err.contains(lastBoxOnConsole())) << r.err.toStdString() << "\nwindow: " << lastBoxOnConsole().toStdString();
+    EXPECT_FALSE(QFile::exists(target));
+
+    // a current view number that is no number stops the load as it stops the window's
+    r = run({QStringLiteral("[Main]"), QStringLiteral("SectionNumber=two")});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("警告: （エラーコード：13）"))) << r.err.toStdString();
+    EXPECT_FALSE(QFile::exists(target));
+    // ... while --view does not read it
+    r = run({QStringLiteral("[Main]"), QStringLiteral("SectionNumber=two")}, {QStringLiteral("--view"), QStringLiteral("0")});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(FileBytes(target), QByteArray(" , \r\n5, \r\n"));
+
+    // a file that cannot be made
+    const QString noSettings = out.file(QStringLiteral("none.ini"));
+    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"), noSettings,
+               out.file(QStringLiteral("no/such/folder.csv"))});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("警告: （エラーコード：76）"))) << r.err.toStdString();
+
+    // no ledger
+    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), out.file(QStringLiteral("pcdb.mdb")), QStringLiteral("--ini"), noSettings,
+               out.file(QStringLiteral("a.csv"))});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("no ledger at ") + out.file(QStringLiteral("pcdb.mdb")))) << r.err.toStdString();
+    EXPECT_FALSE(QFile::exists(out.file(QStringLiteral("a.csv"))));
+}
+
+TEST_F(ExportListTest, UsageErrorsEndWithStatusOneAndWriteNothing)
+{
+    const QString a = out.file(QStringLiteral("a.csv"));
+    const QString b = out.file(QStringLiteral("b.csv"));
+    const QString l = ledger.path();
+    const std::vector<QStringList> cases = {
+        {QStringLiteral("export-list")},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, a, b},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--view"), QStringLiteral("8"), a},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--view"), QStringLiteral("-1"), a},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--view"), QStringLiteral("one"), a},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--view"), QStringLiteral(""), a},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, a, QStringLiteral("--view")},
+        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--csv"), a},
+    };
+    for (const QStringList& args : cases) {
+        const AdminRun r = Admin(args);
+        const std::string shown = args.join(QLatin1Char(' ')).toStdString();
+        EXPECT_EQ(r.exitCode, 1) << shown;
+        EXPECT_TRUE(r.err.contains(QStringLiteral("usage: fenwold-admin export-list [--ledger PATH] [--ini PATH] [--view N] OUT"))) << shown;
+        EXPECT_FALSE(QFile::exists(a)) << shown;
+        EXPECT_FALSE(QFile::exists(b)) << shown;
+    }
+}
+
+// The file routine on a grid the main list filled.
+TEST_F(ExportListTest, WriteGridWritesTheShownTextsAndSplitsAThousandsComma)
+{
+    computer(5, 0, 0, QStringLiteral("Computer_Name = 'PC-A', Memory_Full = 1044612, LAN_Connection = 1"));
+    computer(6, 0, 0, QStringLiteral("Computer_Name = 'PC-B', Memory_Full = 1000"));
+    SectionNumber = 1;
+    writeColumns(1, {8, 28, 45});
+    ASSERT_TRUE(loadList());
+    ListExport::WriteGrid(*grid, out.file(QStringLiteral("list.csv")));
+    // the key column's heading is one blank; the row numbers are left out; the last field of a
+    // line has its comma too; 1,045MB becomes two fields
+    const QByteArray memory = "\x83\x81\x83\x82\x83\x8a\x91\x53\x97\x65\x97\xca";   // メモリ全容量
+    const QByteArray lan = "LAN\x8c\x6f\x97\x52";                                     // LAN経由
+    const QByteArray enabled = "\x97\x4c\x8c\xf8";                                     // 有効
+    const QByteArray name = "\x83\x52\x83\x93\x83\x73\x83\x85\x81\x5b\x83\x5e\x96\xbc";   // コンピュータ名
+    const QByteArray expected = QByteArray(" ,") + name + ',' + memory + ',' + lan + ", \r\n"
+                                + "5,PC-A,1,045MB," + enabled + ", \r\n"
+                                + "6,PC-B,1000,, \r\n";
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("list.csv"))), expected);
+
+    // a list without rows leaves a grid without rows or columns, and the file empty
+    ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1"));
+    EXPECT_FALSE(loadList());
+    ASSERT_EQ(grid->Rows(), 0);
+    ListExport::WriteGrid(*grid, out.file(QStringLiteral("list.csv")));
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("list.csv"))), QByteArray());
+}
+
+} // namespace
