@@ -14,11 +14,22 @@
 #include <QRadioButton>
 #include <QTest>
 
+#include <array>
+#include <initializer_list>
 #include <set>
 
 using namespace Mdl_gData;
 
 namespace {
+
+QString u(const char* s) { return QString::fromUtf8(s); }
+QStringList us(std::initializer_list<const char*> list)
+{
+    QStringList out;
+    for (const char* s : list)
+        out << u(s);
+    return out;
+}
 
 class FrmSelectView : public AssetListFixture {
 protected:
@@ -113,13 +124,6 @@ protected:
         }
         return out;
     }
-    QStringList headings() const
-    {
-        QStringList out;
-        for (int c = 2; c < grid->Cols(); ++c)
-            out << grid->TextMatrix(0, c);
-        return out;
-    }
     QStringList listedKeys() const
     {
         QStringList out;
@@ -128,30 +132,35 @@ protected:
         return out;
     }
 
+    // Writes the sort keys of a saved view: field, caption and direction of each, in slot order;
+    // a null direction is left out.
+    void writeSortKeys(int section, const std::vector<std::array<const char*, 3>>& keys)
+    {
+        std::map<QString, QString> m{{QStringLiteral("SelectNumber"), QString::number(keys.size())}};
+        for (size_t i = 0; i < keys.size(); ++i) {
+            m[QStringLiteral("KeyName%1").arg(i)] = u(keys[i][0]);
+            m[QStringLiteral("KeyCaption%1").arg(i)] = u(keys[i][1]);
+            if (keys[i][2])
+                m[QStringLiteral("KeyASCDESC%1").arg(i)] = u(keys[i][2]);
+        }
+        writeView(section, m);
+    }
+
     QPointer<frm_SelectView> form;
 };
 
 TEST_F(FrmSelectView, OpensOnTheCurrentViewAtItsFixedSize)
 {
-    writeView(2, {{QStringLiteral("OptDel"), QStringLiteral("1")},
-                  {QStringLiteral("SelectNumber"), QStringLiteral("2")},
-                  {QStringLiteral("KeyName0"), QStringLiteral("Computer_Name")},
-                  {QStringLiteral("KeyCaption0"), QStringLiteral("コンピュータ名")},
-                  {QStringLiteral("KeyASCDESC0"), QStringLiteral("DESC")},
-                  {QStringLiteral("KeyName1"), QStringLiteral("ipaddress")},
-                  {QStringLiteral("KeyCaption1"), QStringLiteral("IPアドレス")},
-                  {QStringLiteral("KeyASCDESC1"), QStringLiteral("ASC")},
-                  {QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("3")},
-                  {QStringLiteral("MSFlexGrit_Select1"), QStringLiteral("3")},
-                  {QStringLiteral("MSFlexGrit_Select2"), QStringLiteral("8")},
-                  {QStringLiteral("MSFlexGrit_Select3"), QStringLiteral("76")}});
+    writeColumns(2, {3, 8, 76});
+    writeView(2, {{u("OptDel"), u("1")}});
+    writeSortKeys(2, {{"Computer_Name", "コンピュータ名", "DESC"}, {"ipaddress", "IPアドレス", "ASC"}});
     SectionNumber = 2;
-    ViewNames[0] = QStringLiteral("全体");
-    ViewNames[2] = QStringLiteral("撤去分");
+    ViewNames[0] = u("全体");
+    ViewNames[2] = u("撤去分");
     mdl_ini::LoadViewSettings();
 
     frm_SelectView& f = open();
-    EXPECT_EQ(f.windowTitle(), QStringLiteral("表示設定"));
+    EXPECT_EQ(f.windowTitle(), u("表示設定"));
     EXPECT_TRUE(f.isModal());
     EXPECT_EQ(f.Width(), 8010);
     EXPECT_EQ(f.Height(), 6045);
@@ -170,18 +179,14 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAtItsFixedSize)
     EXPECT_FALSE(f.OptDel[0]->isChecked());
 
     // the combos are empty until opened, showing the stored keys' captions
-    EXPECT_EQ(placeholders(), (QStringList{QStringLiteral("コンピュータ名"), QStringLiteral("IPアドレス"), QString()}));
+    EXPECT_EQ(placeholders(), (QStringList{u("コンピュータ名"), u("IPアドレス"), QString()}));
     for (const QComboBox* c : f.cmb_Order)
         EXPECT_EQ(c->count(), 0);
-    EXPECT_EQ(f.cmb_key[0], QStringLiteral("Computer_Name"));
-    EXPECT_EQ(f.cmb_key[1], QStringLiteral("ipaddress"));
-    EXPECT_EQ(f.cmb_key[2], QString());
+    EXPECT_EQ(f.cmb_key, (std::array<QString, 3>{u("Computer_Name"), u("ipaddress"), QString()}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 2}));
 
     EXPECT_FALSE(f.Mnu_Update->isEnabled()) << "nothing changed yet";
-    EXPECT_EQ(viewMenu(), (QStringList{QStringLiteral("0:全体"), QStringLiteral("1: "), QStringLiteral("*2:撤去分"),
-                                       QStringLiteral("3: "), QStringLiteral("4: "), QStringLiteral("5: "),
-                                       QStringLiteral("6: "), QStringLiteral("7: ")}));
+    EXPECT_EQ(viewMenu(), us({"0:全体", "1: ", "*2:撤去分", "3: ", "4: ", "5: ", "6: ", "7: "}));
     EXPECT_EQ(f.Mnu_Close->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
     EXPECT_TRUE(dialogs.calls().empty());
 }
@@ -190,8 +195,8 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
 {
     // an earlier, longer view with a key nobody writes any more
     writeColumns(0, {1, 2, 3, 4, 5});
-    writeView(0, {{QStringLiteral("Stale"), QStringLiteral("x")}});
-    ViewNames[0] = QStringLiteral("標準");
+    writeView(0, {{u("Stale"), u("x")}});
+    ViewNames[0] = u("標準");
     ASSERT_TRUE(loadList());
     ASSERT_EQ(grid->Cols(), 7);
     list->CurrentMainKey = 5;   // what the main window had selected before
@@ -207,60 +212,40 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
     ASSERT_TRUE(form->Mnu_Update->isEnabled());
     form->Mnu_Update->trigger();
 
-    const QStringList expected{
-        QStringLiteral("OptDel=0"),
-        QStringLiteral("SelectNumber=1"),
-        QStringLiteral("KeyName0=Computer_Name"),
-        QStringLiteral("KeyName1="),
-        QStringLiteral("KeyName2="),
-        QStringLiteral("KeyCaption0=コンピュータ名"),
-        QStringLiteral("KeyCaption1="),
-        QStringLiteral("KeyCaption2="),
-        QStringLiteral("KeyASCDESC0=DESC"),
-        QStringLiteral("KeyASCDESC1=DESC"),
-        QStringLiteral("KeyASCDESC2=DESC"),
-        QStringLiteral("MSFlexGrit_SelectNum=2"),
-        QStringLiteral("MSFlexGrit_Select1=8"),
-        QStringLiteral("MSFlexGrit_Select2=76"),
-    };
-    EXPECT_EQ(iniSection(QStringLiteral("0")), expected) << "no key of the earlier view survives";
-    EXPECT_EQ(iniSection(QStringLiteral("Main")),
-              (QStringList{QStringLiteral("SectionNumber=0"), QStringLiteral("SectionName0=標準"),
-                           QStringLiteral("SectionName1="), QStringLiteral("SectionName2="), QStringLiteral("SectionName3="),
-                           QStringLiteral("SectionName4="), QStringLiteral("SectionName5="), QStringLiteral("SectionName6="),
-                           QStringLiteral("SectionName7=")}));
+    const QStringList expected = us({"OptDel=0", "SelectNumber=1", "KeyName0=Computer_Name", "KeyName1=", "KeyName2=",
+                                     "KeyCaption0=コンピュータ名", "KeyCaption1=", "KeyCaption2=", "KeyASCDESC0=DESC",
+                                     "KeyASCDESC1=DESC", "KeyASCDESC2=DESC", "MSFlexGrit_SelectNum=2",
+                                     "MSFlexGrit_Select1=8", "MSFlexGrit_Select2=76"});
+    EXPECT_EQ(iniSection(u("0")), expected) << "no key of the earlier view survives";
+    EXPECT_EQ(iniSection(u("Main")), us({"SectionNumber=0", "SectionName0=標準", "SectionName1=", "SectionName2=",
+                                          "SectionName3=", "SectionName4=", "SectionName5=", "SectionName6=",
+                                          "SectionName7="}));
 
     // the main list follows at once, installed computers by name, descending
-    EXPECT_EQ(headings(), (QStringList{QStringLiteral("コンピュータ名"), QStringLiteral("コメント")}));
-    EXPECT_EQ(listedKeys(), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
+    ASSERT_EQ(grid->Cols(), 4);
+    EXPECT_EQ(grid->TextMatrix(0, 2), u("コンピュータ名"));
+    EXPECT_EQ(grid->TextMatrix(0, 3), u("コメント"));
+    EXPECT_EQ(listedKeys(), us({"2", "3", "1"}));
     // the refresh leaves row 1 painted as selected and the main window's key as it was
     EXPECT_EQ(back(1, 1), gray());
     EXPECT_EQ(list->CurrentMainKey, 5);
 
     // the window shows what was saved and is clean again
     EXPECT_FALSE(form->Mnu_Update->isEnabled());
-    EXPECT_EQ(placeholders(), (QStringList{QStringLiteral("コンピュータ名"), QStringLiteral(" "), QStringLiteral(" ")}));
+    EXPECT_EQ(placeholders(), us({"コンピュータ名", " ", " "}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 2, 4}));
 
     // applying again with nothing changed in the sort rows writes the same section
     form->OptDel[0]->click();
     form->Mnu_Update->trigger();
-    EXPECT_EQ(iniSection(QStringLiteral("0")), expected);
+    EXPECT_EQ(iniSection(u("0")), expected);
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
 TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys)
 {
-    writeView(0, {{QStringLiteral("SelectNumber"), QStringLiteral("3")},
-                  {QStringLiteral("KeyName0"), QStringLiteral("Location_Name")},
-                  {QStringLiteral("KeyCaption0"), QStringLiteral("設置場所")},
-                  {QStringLiteral("KeyASCDESC0"), QStringLiteral("ASC")},
-                  {QStringLiteral("KeyName1"), QStringLiteral("Computer_Name")},
-                  {QStringLiteral("KeyCaption1"), QStringLiteral("コンピュータ名")},
-                  {QStringLiteral("KeyASCDESC1"), QStringLiteral("DESC")},
-                  {QStringLiteral("KeyName2"), QStringLiteral("ipaddress")},
-                  {QStringLiteral("KeyCaption2"), QStringLiteral("IPアドレス")},
-                  {QStringLiteral("KeyASCDESC2"), QStringLiteral("ASC")}});
+    writeSortKeys(0, {{"Location_Name", "設置場所", "ASC"}, {"Computer_Name", "コンピュータ名", "DESC"},
+                      {"ipaddress", "IPアドレス", "ASC"}});
     loadList();
     open();
     pick(0, 0);   // given up
@@ -270,17 +255,17 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->Mnu_Update->trigger();
 
     EXPECT_EQ(SelectNumber, 2);
-    EXPECT_EQ(SortKeyName[0], QStringLiteral("Computer_Name"));
-    EXPECT_EQ(SortKeyCaption[0], QStringLiteral("コンピュータ名"));
-    EXPECT_EQ(SortKeyDirection[0], QStringLiteral("DESC"));
-    EXPECT_EQ(SortKeyName[1], QStringLiteral("Workgroup"));
-    EXPECT_EQ(SortKeyCaption[1], QStringLiteral("ワークグループ"));
-    EXPECT_EQ(SortKeyDirection[1], QStringLiteral("DESC"));
-    EXPECT_EQ(SortKeyName[2], QString());
-    EXPECT_TRUE(ListSql.endsWith(QStringLiteral(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << ListSql.toStdString();
-    EXPECT_EQ(placeholders(), (QStringList{QStringLiteral("コンピュータ名"), QStringLiteral("ワークグループ"), QStringLiteral(" ")}));
+    for (int i = 0; i <= 2; ++i) {
+        const char* const want[3][3] = {
+            {"Computer_Name", "コンピュータ名", "DESC"}, {"Workgroup", "ワークグループ", "DESC"}, {"", " ", "DESC"}};
+        EXPECT_EQ(SortKeyName[i], u(want[i][0])) << i;
+        EXPECT_EQ(SortKeyCaption[i], u(want[i][1])) << i;
+        EXPECT_EQ(SortKeyDirection[i], u(want[i][2])) << i;
+    }
+    EXPECT_TRUE(ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << ListSql.toStdString();
+    EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));
-    EXPECT_EQ(listedKeys(), (QStringList{QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
+    EXPECT_EQ(listedKeys(), us({"2", "3", "1"}));
 
     // Two columns share the caption "パスワード"; the one picked is the one that stays, through
     // later applies that leave the row alone.
@@ -289,16 +274,16 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->OptDel[0]->click();
     form->Mnu_Update->trigger();
     EXPECT_EQ(SelectNumber, 3);
-    EXPECT_EQ(SortKeyName[2], QStringLiteral("UserPassword"));
-    EXPECT_TRUE(iniSection(QStringLiteral("0")).contains(QStringLiteral("KeyName2=UserPassword")));
+    EXPECT_EQ(SortKeyName[2], u("UserPassword"));
+    EXPECT_TRUE(iniSection(u("0")).contains(u("KeyName2=UserPassword")));
 }
 
 TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesItsNumber)
 {
     writeColumns(0, {8});
-    writeView(1, {{QStringLiteral("OptDel"), QStringLiteral("1")}, {QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("0")}});
-    ViewNames[0] = QStringLiteral("標準");
-    ViewNames[1] = QStringLiteral("撤去");
+    writeView(1, {{u("OptDel"), u("1")}, {u("MSFlexGrit_SelectNum"), u("0")}});
+    ViewNames[0] = u("標準");
+    ViewNames[1] = u("撤去");
     ASSERT_TRUE(loadList());
     ASSERT_EQ(listedKeys().size(), 3);
 
@@ -310,85 +295,72 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
     EXPECT_EQ(SectionNumber, 1);
     // no column chosen: the list has its row numbers and the hidden key only
     EXPECT_EQ(grid->Cols(), 2);
-    EXPECT_EQ(listedKeys(), QStringList{QStringLiteral("4")}) << "the retired computer";
+    EXPECT_EQ(listedKeys(), us({"4"})) << "the retired computer";
     EXPECT_TRUE(selectedColumns().empty());
     EXPECT_TRUE(form->OptDel[1]->isChecked());
     EXPECT_FALSE(form->Mnu_Update->isEnabled());
-    EXPECT_EQ(viewMenu().filter(QStringLiteral("*")), QStringList{QStringLiteral("*1:撤去")});
-    EXPECT_TRUE(iniSection(QStringLiteral("Main")).isEmpty()) << "a switch writes nothing";
+    EXPECT_EQ(viewMenu().filter(u("*")), us({"*1:撤去"}));
+    EXPECT_TRUE(iniSection(u("Main")).isEmpty()) << "a switch writes nothing";
 
     // the close box does not save the view's number ...
     form->close();
     EXPECT_TRUE(form.isNull() || form->IsUnloaded());
-    EXPECT_TRUE(iniSection(QStringLiteral("Main")).isEmpty());
+    EXPECT_TRUE(iniSection(u("Main")).isEmpty());
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 
     // ... the menu's close does
     open();
-    EXPECT_EQ(viewMenu().filter(QStringLiteral("*")), QStringList{QStringLiteral("*1:撤去")});
+    EXPECT_EQ(viewMenu().filter(u("*")), us({"*1:撤去"}));
     form->Mnu_Close->trigger();
     EXPECT_TRUE(form.isNull() || form->IsUnloaded());
-    EXPECT_EQ(iniSection(QStringLiteral("Main")), QStringList{QStringLiteral("SectionNumber=1")});
+    EXPECT_EQ(iniSection(u("Main")), us({"SectionNumber=1"}));
 }
 
 TEST_F(FrmSelectView, NamingAViewWritesItsNameEvenWhenTheBoxIsCancelled)
 {
     SectionNumber = 3;
-    ViewNames[3] = QStringLiteral("旧名");
+    ViewNames[3] = u("旧名");
     open();
-    dialogs.answerInput(QStringLiteral("新しい名前"));
+    dialogs.answerInput(u("新しい名前"));
     form->Mnu_SetNameStr->trigger();
 
     ASSERT_EQ(dialogs.calls().size(), 1u);
     EXPECT_EQ(dialogs.calls()[0].kind, ScriptedDialogs::Call::Input);
-    EXPECT_EQ(dialogs.calls()[0].prompt, QStringLiteral("項目3に名前をつけてください"));
-    EXPECT_EQ(dialogs.calls()[0].title, QStringLiteral("名称変更"));
-    EXPECT_EQ(ViewNames[3], QStringLiteral("新しい名前"));
-    EXPECT_EQ(form->Mnu_ViewSelect[3]->text(), QStringLiteral("3:新しい名前"));
-    EXPECT_EQ(iniSection(QStringLiteral("Main")), QStringList{QStringLiteral("SectionName3=新しい名前")});
+    EXPECT_EQ(dialogs.calls()[0].prompt, u("項目3に名前をつけてください"));
+    EXPECT_EQ(dialogs.calls()[0].title, u("名称変更"));
+    EXPECT_EQ(ViewNames[3], u("新しい名前"));
+    EXPECT_EQ(form->Mnu_ViewSelect[3]->text(), u("3:新しい名前"));
+    EXPECT_EQ(iniSection(u("Main")), us({"SectionName3=新しい名前"}));
     EXPECT_FALSE(form->Mnu_Update->isEnabled()) << "a name is saved at once, not a change of the view";
 
-    mdl_ini::IniWrite(QStringLiteral("Main"), QStringLiteral("SectionName3"), std::nullopt);
+    mdl_ini::IniWrite(u("Main"), u("SectionName3"), std::nullopt);
     dialogs.answerInput(std::nullopt);
     form->Mnu_SetNameStr->trigger();
-    EXPECT_EQ(ViewNames[3], QStringLiteral("新しい名前"));
-    EXPECT_EQ(iniSection(QStringLiteral("Main")), QStringList{QStringLiteral("SectionName3=新しい名前")});
+    EXPECT_EQ(ViewNames[3], u("新しい名前"));
+    EXPECT_EQ(iniSection(u("Main")), us({"SectionName3=新しい名前"}));
 }
 
-TEST_F(FrmSelectView, EveryChangeOfTheControlsEnablesApplyingAndNothingElseDoes)
+TEST_F(FrmSelectView, TheListCommandsMarkAChangeAndAnOptionShowsTheSavedKeysAgain)
 {
-    writeView(0, {{QStringLiteral("SelectNumber"), QStringLiteral("1")},
-                  {QStringLiteral("KeyName0"), QStringLiteral("Computer_Name")},
-                  {QStringLiteral("KeyCaption0"), QStringLiteral("コンピュータ名")}});
-    loadList();
+    writeSortKeys(0, {{"Computer_Name", "コンピュータ名", nullptr}});
+    mdl_ini::LoadViewSettings();
     frm_SelectView& f = open();
-    // whether the step marked the view changed; the mark is taken off again for the next step
-    const auto marks = [&f](const std::function<void()>& step) {
-        step();
-        const bool on = f.Mnu_Update->isEnabled();
-        f.Mnu_Update->setEnabled(false);
-        return on;
-    };
-
-    EXPECT_TRUE(marks([&] { f.Mnu_SelectAll->trigger(); }));
+    f.Mnu_SelectAll->trigger();
     EXPECT_EQ(selectedColumns().size(), 76u);
-    EXPECT_TRUE(marks([&] { f.Mnu_deSelect_All->trigger(); }));
-    EXPECT_TRUE(selectedColumns().empty());
-    EXPECT_TRUE(marks([&] { clickColumn(12); }));
-    EXPECT_TRUE(marks([&] { pick(0, 20); }));
-    EXPECT_TRUE(marks([&] { f.Opt_ASC_DESC[2]->click(); }));
-    EXPECT_FALSE(marks([&] {
-        f.cmb_Order[1]->showPopup();
-        f.cmb_Order[1]->hidePopup();
-    })) << "opening a combo without a pick";
+    EXPECT_TRUE(f.Mnu_Update->isEnabled()) << "through the click the list raises";
+    f.Mnu_Update->setEnabled(false);
+    f.cmb_Order[1]->showPopup();
+    f.cmb_Order[1]->hidePopup();
     EXPECT_EQ(f.cmb_Order[1]->count(), 77) << "the blank item and the 76 columns";
-    EXPECT_EQ(f.cmb_Order[1]->itemText(51), QStringLiteral("パスワード"));
-    EXPECT_EQ(f.cmb_Order[1]->itemData(51).toInt(), 51);
+    EXPECT_FALSE(f.Mnu_Update->isEnabled()) << "opening a combo without a pick changes nothing";
 
     // choosing installed or removed computers shows the saved sort keys again
-    EXPECT_TRUE(marks([&] { f.OptDel[1]->click(); }));
-    EXPECT_EQ(placeholders(), (QStringList{QStringLiteral("コンピュータ名"), QString(), QString()}));
-    EXPECT_EQ(f.cmb_key[0], QStringLiteral("Computer_Name"));
+    pick(0, 20);
+    f.Mnu_Update->setEnabled(false);
+    f.OptDel[1]->click();
+    EXPECT_TRUE(f.Mnu_Update->isEnabled());
+    EXPECT_EQ(placeholders(), (QStringList{u("コンピュータ名"), QString(), QString()}));
+    EXPECT_EQ(f.cmb_key[0], u("Computer_Name"));
 }
 
 } // namespace
