@@ -305,6 +305,8 @@ JetStatement parse(QStringView jet, bool withSql)
             st.kind = JetStatement::Kind::Delete;
     }
     const bool isSelect = st.kind == JetStatement::Kind::Select;
+    if (!isSelect && st.kind != JetStatement::Kind::Other)
+        st.params.reserve(8);
 
     int depth = 0;
     bool inSet = false;          // inside the SET list of an UPDATE, at depth 0
@@ -317,6 +319,20 @@ JetStatement parse(QStringView jet, bool withSql)
         if (withSql)
             st.sql += t;
         shape.add(t);
+    };
+    // A name in double quotes; the shape takes the name itself as a piece of the source.
+    auto emitName = [&](QStringView name) {
+        if (withSql)
+            appendQuotedName(st.sql, name);
+        if (name.contains(QLatin1Char('"'))) {
+            QString quoted;
+            appendQuotedName(quoted, name);
+            shape.add(quoted);
+            return;
+        }
+        shape.add(QLatin1Char('"'));
+        shape.add(name);
+        shape.add(QLatin1Char('"'));
     };
     auto lifting = [&] { return liftLiterals && !afterOrderOrGroup; };
     auto emitLiteral = [&](QStringView sqlText, Literal value) {
@@ -390,15 +406,11 @@ JetStatement parse(QStringView jet, bool withSql)
                     i = col;
                 }
                 expectTarget = false;
-                QString name;
-                appendQuotedName(name, toks[i].text);
-                emitBoth(name);
+                emitName(toks[i].text);
                 break;
             }
             if (t.type == Tok::Quoted) {
-                QString name;
-                appendQuotedName(name, t.text);
-                emitBoth(name);
+                emitName(t.text);
                 break;
             }
             const size_t next = nextSolid(i);
@@ -416,9 +428,7 @@ JetStatement parse(QStringView jet, bool withSql)
                 quote = isSqliteKeyword(t.text);
             }
             if (quote) {
-                QString name;
-                appendQuotedName(name, t.text);
-                emitBoth(name);
+                emitName(t.text);
                 break;
             }
             emitBoth(t.text);
