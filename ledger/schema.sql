@@ -1,8 +1,8 @@
--- The empty ledger: every table of Fenwold, its columns, the checks that refuse what the original
+-- The empty ledger: every table of Fenwold, its columns, the checks that refuse what the Jet engine
 -- database engine refused, and the reserved rows of code 0. fenwold-admin new-ledger writes a new
 -- pcdb.mdb from this text; the window program itself creates nothing.
 --
--- Declared types tell the database layer the type of each column, as the original's field types did:
+-- Declared types tell the database layer the type of each column, as Jet's field types did:
 --   SMALLINT   key and flag columns, whole numbers -32768..32767
 --   INTEGER    long columns ("数値"), whole numbers of 32 bits
 --   TEXT       text of at most 255 characters ("文字"), compared without regard to case
@@ -572,7 +572,7 @@ CREATE INDEX tbl_Device_Management_Key ON tbl_Device_Management ("Key");
 CREATE INDEX tbl_Printer_Management_Key ON tbl_Printer_Management ("Key");
 CREATE INDEX tbl_Environmental_Key ON tbl_Environmental ("Key");
 
--- Dates. The original engine took a date in its usual forms (2005/2/3, 2005-02-03,
+-- Dates. Jet took a date in its usual forms (2005/2/3, 2005-02-03,
 -- 2005/02/03 10:11:12, 2005/02/03 10:11) and refused a day that does not exist (2005/02/31).
 -- These triggers do both: a value that is no real date aborts the statement with
 -- '<column>_date', and any other is stored in the one form 'yyyy/mm/dd[ hh:nn:ss]'. An insert

@@ -7,6 +7,7 @@
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FixedSize.h"
+#include "platform/ui/Menus.h"
 #include "platform/ui/StatusBar.h"
 
 #include <QAction>
@@ -36,7 +37,7 @@ constexpr int kHeight = 6045;
 // the columns a view can choose from: rows 1 to 76 of ColumnTable
 constexpr int kColumns = 76;
 
-QString padded(const char* caption, int blanks) { return QString::fromUtf8(caption) + QString(blanks, QChar(0x3000)); }
+QString padded(const char* caption, int blanks) { return ui::PaddedCaption(QString::fromUtf8(caption), blanks); }
 
 // A sort key combo. Its list is filled only when the user opens it (DropDown), so while the user
 // has not picked in it its index is -1 and it shows the stored key's caption, as the text part
@@ -72,21 +73,10 @@ frm_SelectView::frm_SelectView()
 
 void frm_SelectView::buildMenus()
 {
-    MenuBar = new QMenuBar(this);
-    MenuBar->setObjectName(QStringLiteral("MenuBar"));
-    MenuBar->setNativeMenuBar(false);
-
-    auto menu = [this](const char* name, const QString& caption) {
-        QMenu* m = MenuBar->addMenu(caption);
-        m->setObjectName(QString::fromUtf8(name));
-        return m;
-    };
-    auto item = [](QMenu* m, const char* name, const QString& caption) {
-        QAction* a = m->addAction(caption);
-        a->setObjectName(QString::fromUtf8(name));
-        return a;
-    };
-    auto separator = [](QMenu* m, const char* name) { m->addSeparator()->setObjectName(QString::fromUtf8(name)); };
+    MenuBar = ui::AddMenuBar(this);
+    auto menu = [this](const char* name, const QString& caption) { return ui::AddMenu(MenuBar, name, caption); };
+    const auto item = [](QMenu* m, const char* name, const QString& caption) { return ui::AddMenuItem(m, name, caption); };
+    const auto separator = ui::AddMenuSeparator;
 
     // the top-level captions are widened with ideographic blanks, as in the main window
     Mnu_File = menu("Mnu_File", padded("ファイル", 7));

@@ -13,7 +13,7 @@ QString IpToHex8(const QString& address)
     QString result;
     if (address.isEmpty())
         return result;
-    // The address reaches inet_addr as ANSI text, as the original's declaration passed it.
+    // The address reaches inet_addr as ANSI text, as a Declare of the Windows function passed it.
     const QByteArray ansi = text::ToCp932(address);
     const in_addr_t a = inet_addr(ansi.constData());
     const auto* bytes = reinterpret_cast<const unsigned char*>(&a);  // network order: first octet first

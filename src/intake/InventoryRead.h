@@ -24,7 +24,7 @@ struct InventoryFileResult {
         Read,           // staged and made into the computer mainKey
         RefusedHeader,  // first line empty or not the header: nothing changed
         Unreadable,     // could not be opened or read: the computer mainKey was made from what
-                        // tbl_ReadCsv still held, as the original did
+                        // tbl_ReadCsv still held
     };
     QString path;
     Outcome outcome = Read;
@@ -35,7 +35,7 @@ struct InventoryFileResult {
 };
 
 // One run of the reader over files, in the language the user chose. The key lives as long as
-// the run, as it did in the original command: when the next key would pass 32767 the addition
+// the run: when the next key would pass 32767 the addition
 // fails, the key stays what it was, and the file's values land on that computer.
 class InventoryReader {
 public:

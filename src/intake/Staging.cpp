@@ -48,7 +48,7 @@ std::array<QString, CsvFieldCount> splitLine(const QString& line)
 
 bool CheckCsvHeader(const QString& line)
 {
-    // The original cut the line at each comma and compared the pieces with the six names, then
+    // The test as first written cut the line at each comma and compared the pieces with the six names, then
     // the rest with "Renewalday" as a whole: that is the same as comparing the whole line.
     return line == QLatin1String("Key,Group,Item,SubItem,Contents,Unit,Renewalday");
 }
@@ -56,7 +56,7 @@ bool CheckCsvHeader(const QString& line)
 bool ReadCsvToStaging(const QString& path)
 {
     // The name without its folder and its last four characters, and the last three characters.
-    // The original looked for the last backslash only; here either separator ends the folder,
+    // Windows paths end their folder at the last backslash; here either separator ends the folder,
     // and a path of fewer than four characters gives an empty name instead of an error.
     const QString withoutExtension = path.left(qMax<qsizetype>(0, path.size() - 4));
     const qsizetype cut = qMax(withoutExtension.lastIndexOf(QLatin1Char('\\')), withoutExtension.lastIndexOf(QLatin1Char('/')));
@@ -92,7 +92,7 @@ bool ReadCsvToStaging(const QString& path)
 
 void CopyStagingRows(const QString& selection, const QString& prefix, const QString& key, std::int16_t mode)
 {
-    // Errors are ignored statement by statement, as the original ran this routine.
+    // Errors are ignored statement by statement, as VB's On Error Resume Next ran this routine.
     db::Recordset rs;
     try {
         rs.Open(selection, DbConnection(), db::adOpenStatic, db::adLockOptimistic);

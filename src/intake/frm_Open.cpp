@@ -10,6 +10,7 @@
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FixedSize.h"
+#include "platform/ui/Menus.h"
 #include "platform/vb/FixedArray.h"
 #include "platform/vb/VbError.h"
 
@@ -47,15 +48,10 @@ frm_Open::frm_Open()
 
 void frm_Open::buildMenus()
 {
-    MenuBar = new QMenuBar(this);
-    MenuBar->setObjectName(QStringLiteral("MenuBar"));
-    MenuBar->setNativeMenuBar(false);
-    Mnu_File = MenuBar->addMenu(QStringLiteral("ファイル"));
-    Mnu_File->setObjectName(QStringLiteral("Mnu_File"));
+    MenuBar = ui::AddMenuBar(this);
+    Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", QStringLiteral("ファイル"));
     auto item = [this](const char* name, const char* caption) {
-        QAction* a = Mnu_File->addAction(QString::fromUtf8(caption));
-        a->setObjectName(QString::fromUtf8(name));
-        return a;
+        return ui::AddMenuItem(Mnu_File, name, QString::fromUtf8(caption));
     };
     Mnu_ReadCSV = item("Mnu_ReadCSV", "Sondex ファイル読込み");
     Mnu_Read_English = item("Mnu_Read_English", "Read Sondex Data (English) ");   // the blank is the caption's

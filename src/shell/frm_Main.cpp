@@ -12,6 +12,7 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/Menus.h"
 #include "platform/ui/StatusBar.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -46,7 +47,7 @@ const int kDesignLeft = 50;
 
 QString padded(const char* caption, int blanks, QChar blank)
 {
-    return QString::fromUtf8(caption) + QString(blanks, blank);
+    return ui::PaddedCaption(QString::fromUtf8(caption), blanks, blank);
 }
 
 // The picture of ImageList1: a monitor over its stand.
@@ -100,22 +101,12 @@ frm_Main::~frm_Main()
 
 void frm_Main::buildMenus()
 {
-    MenuBar = new QMenuBar(this);
-    MenuBar->setObjectName(QStringLiteral("MenuBar"));
-    MenuBar->setNativeMenuBar(false);
-
-    auto menu = [this](const char* name, const QString& caption) {
-        QMenu* m = MenuBar->addMenu(caption);
-        m->setObjectName(QString::fromUtf8(name));
-        return m;
-    };
+    MenuBar = ui::AddMenuBar(this);
+    auto menu = [this](const char* name, const QString& caption) { return ui::AddMenu(MenuBar, name, caption); };
     auto item = [](QMenu* m, const char* name, const char* caption, const QKeySequence& shortcut = {}) {
-        QAction* a = m->addAction(QString::fromUtf8(caption));
-        a->setObjectName(QString::fromUtf8(name));
-        a->setShortcut(shortcut);
-        return a;
+        return ui::AddMenuItem(m, name, QString::fromUtf8(caption), shortcut);
     };
-    auto separator = [](QMenu* m, const char* name) { m->addSeparator()->setObjectName(QString::fromUtf8(name)); };
+    const auto separator = ui::AddMenuSeparator;
     // the top-level captions are widened with ideographic blanks, "新規作成" with ordinary ones
     const QChar ideographic(0x3000), blank(QLatin1Char(' '));
 
@@ -278,7 +269,7 @@ void frm_Main::Form_Load()
 
 void frm_Main::Form_Resize()
 {
-    // The rule keeps the original's allowances for the frame, menu and status bar (500 and 1050
+    // The rule keeps VB's allowances for the frame, menu and status bar (500 and 1050
     // twips). Where this platform's bars are taller, the grid is kept above the status bar so
     // that its scroll bar stays in sight.
     const int width = Width() - 500;

@@ -6,34 +6,15 @@
 #include "platform/text/Cp932.h"
 #include "platform/vb/Conversion.h"
 
+#include "support/AdminProcess.h"
 #include "TestPaths.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 
 using namespace Mdl_gData;
 
 namespace {
-
-struct AdminRun {
-    int exitCode = -1;
-    QString err;
-};
-
-AdminRun Admin(const QStringList& args, const QString& program = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"))
-{
-    QProcess p;
-    p.start(program, args);
-    AdminRun r;
-    if (!p.waitForFinished(60000)) {
-        ADD_FAILURE() << "fenwold-admin did not finish";
-        return r;
-    }
-    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    r.err = QString::fromUtf8(p.readAllStandardError());
-    return r;
-}
 
 QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
 

@@ -1,33 +1,12 @@
 // fenwold-admin read, run as a process the way scripts run it.
 #include "IntakeFixture.h"
 
+#include "support/AdminProcess.h"
 #include "TestPaths.h"
 
 #include <QFile>
-#include <QProcess>
 
 namespace {
-
-struct AdminRun {
-    int exitCode = -1;
-    QStringList out;
-    QString err;
-};
-
-AdminRun Admin(const QStringList& args, const QString& program = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"))
-{
-    QProcess p;
-    p.start(program, args);
-    AdminRun r;
-    if (!p.waitForFinished(60000)) {
-        ADD_FAILURE() << "fenwold-admin did not finish";
-        return r;
-    }
-    r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-    r.out = QString::fromUtf8(p.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    r.err = QString::fromUtf8(p.readAllStandardError());
-    return r;
-}
 
 class ReadCommand : public ::testing::Test {
 protected:

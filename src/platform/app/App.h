@@ -5,7 +5,7 @@
 
 #include <functional>
 
-// What VB's App object and clock gave the original: the program's folder, where pcdb.mdb and
+// What VB's App object and clock gave a program: the program's folder, where pcdb.mdb and
 // DB.ini live, the program's title, and the time. Tests set their own folder and clock.
 namespace app {
 

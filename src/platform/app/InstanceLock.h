@@ -21,7 +21,7 @@ public:
     InstanceLock& operator=(const InstanceLock&) = delete;
 
     // Takes the lock. False only when another live instance holds it: a folder where no lock
-    // file can be written does not stop the program, as the original's test would not have.
+    // file can be written does not stop the program, as App.PrevInstance would not have.
     bool Acquire();
     bool Held() const { return m_held; }
     void Release();

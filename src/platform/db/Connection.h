@@ -17,7 +17,7 @@ class StatementCache;
 
 // An ADO connection over an SQLite ledger file. The connection string keeps ADO's form; only its
 // "Data Source=" part is read. Statements are Jet text, rewritten by JetSql. Every failure is a
-// vb::VbError with the number and description the original's data access gave.
+// vb::VbError with the number and description Jet's data access gave.
 //
 // Journal: WAL with synchronous=NORMAL, so that each statement commits by itself (as Jet did
 // without a transaction) and a killed run keeps what was written.

@@ -8,8 +8,8 @@ struct sqlite3;
 
 namespace db {
 
-// The errors of the database layer, numbered and worded as the original's data access reported
-// them, so that StandardErrorBox shows what a user of the original saw.
+// The errors of the database layer, numbered and worded as Jet's data access reported
+// them, so that StandardErrorBox shows the numbers and texts that users know from Jet.
 namespace EngineError {
 
 inline constexpr long Fail = -2147467259;              // E_FAIL: most refusals of the engine

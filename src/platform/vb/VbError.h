@@ -7,7 +7,7 @@
 namespace vb {
 
 // A run-time error as VB raised it: a number and a Japanese description. Every failure of the
-// platform layer and of the ledger is one of these; handlers catch it where the original had an
+// platform layer and of the ledger is one of these; handlers catch it where a VB routine had an
 // error handler, and the UI's dispatcher turns an uncaught one into the fatal report.
 class VbError : public std::exception {
 public:

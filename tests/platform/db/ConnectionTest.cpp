@@ -44,7 +44,7 @@ TEST(Connection, OpensOnlyAnExistingLedger)
     EXPECT_EQ(c.State(), db::adStateClosed);
 }
 
-TEST(Connection, ExecuteReportsTheEnginesRefusalsAsTheOriginalNumbered)
+TEST(Connection, ExecuteReportsTheEnginesRefusalsAsJetNumberedThem)
 {
     TempLedger l;
     Connection& c = l.connection();

@@ -53,7 +53,7 @@ struct Refusal {
     const char* sql;
 };
 
-TEST(Schema, RefusesWhatTheOriginalEngineRefused)
+TEST(Schema, RefusesWhatJetRefused)
 {
     TempLedger l;
     l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
