@@ -1,6 +1,7 @@
 #include "AssetListFixture.h"
 
 #include "platform/vb/VbError.h"
+#include "support/VbErrors.h"
 
 using namespace Mdl_gData;
 
@@ -22,15 +23,6 @@ protected:
         SelectedColumnCount = 4;
         for (int i = 1; i <= 76; ++i)
             SelectedColumns[i] = std::int16_t(i);
-    }
-    static long errorOf(const std::function<void()>& f)
-    {
-        try {
-            f();
-        } catch (const vb::VbError& e) {
-            return e.Number();
-        }
-        return 0;
     }
 };
 
@@ -88,17 +80,17 @@ TEST_F(ViewSettings, ReadsTheSectionOfTheCurrentView)
 TEST_F(ViewSettings, BadNumbersAndTooManyColumnsGoToTheCaller)
 {
     writeView(0, {{QStringLiteral("OptDel"), QStringLiteral("すべて")}});
-    EXPECT_EQ(errorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::TypeMismatch);
+    EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::TypeMismatch);
 
     writeView(0, {{QStringLiteral("OptDel"), QStringLiteral("0")}, {QStringLiteral("MSFlexGrit_Select2"), QStringLiteral("x")},
                   {QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("2")}});
-    EXPECT_EQ(errorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::TypeMismatch);
+    EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::TypeMismatch);
 
     // SelectedColumns ends at 256: the 257th place runs off it, after the 256th was loaded
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("300"));
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_Select2"), QStringLiteral("9"));
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_Select256"), QStringLiteral("12"));
-    EXPECT_EQ(errorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::SubscriptOutOfRange);
     EXPECT_EQ(SelectedColumnCount, 300);
     EXPECT_EQ(SelectedColumns[2], 9);
     EXPECT_EQ(SelectedColumns[256], 12);

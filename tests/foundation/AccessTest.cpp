@@ -3,6 +3,7 @@
 #include "FoundationFixture.h"
 
 #include "platform/db/Recordset.h"
+#include "support/VbErrors.h"
 
 #include <QFile>
 
@@ -18,15 +19,6 @@ protected:
         FoundationFixture::SetUp();
         ledger.closeConnection();
         ASSERT_TRUE(ConnectDatabase());
-    }
-    long errorOf(const std::function<void()>& f)
-    {
-        try {
-            f();
-        } catch (const VbError& e) {
-            return e.Number();
-        }
-        return 0;
     }
 };
 
@@ -97,10 +89,10 @@ TEST_F(Access, FirstRowHasNineSanitisedSlots)
     EXPECT_EQ(mixed[3], QStringLiteral("2005/04/01 9：30：00")) << "a date and time reads as VB writes it, sanitised";
 
     EXPECT_EQ(OpenRecordsetFirstRow(QStringLiteral("SELECT * FROM tbl_Pclist WHERE MainKey = 99")), FirstRow{});
-    EXPECT_EQ(errorOf([] { OpenRecordsetFirstRow(QStringLiteral("SELECT MainKey,1,2,3,4,5,6,7,8,9 FROM tbl_Pclist")); }), 9)
+    EXPECT_EQ(ErrorOf([] { OpenRecordsetFirstRow(QStringLiteral("SELECT MainKey,1,2,3,4,5,6,7,8,9 FROM tbl_Pclist")); }), 9)
         << "a tenth column is the index error";
-    EXPECT_EQ(errorOf([] { OpenRecordsetFirstRow(QStringLiteral("SELECT IPAddress FROM tbl_Pclist")); }), 94) << "a Null fails";
-    EXPECT_NE(errorOf([] { OpenRecordsetFirstRow(QStringLiteral("SELECT * FROM tbl_Nowhere")); }), 0);
+    EXPECT_EQ(ErrorOf([] { OpenRecordsetFirstRow(QStringLiteral("SELECT IPAddress FROM tbl_Pclist")); }), 94) << "a Null fails";
+    EXPECT_NE(ErrorOf([] { OpenRecordsetFirstRow(QStringLiteral("SELECT * FROM tbl_Nowhere")); }), 0);
     EXPECT_TRUE(dialogs.calls().empty()) << "the routine has no handler of its own";
 }
 

@@ -2,6 +2,7 @@
 #include "platform/db/EngineError.h"
 
 #include "support/TempLedger.h"
+#include "support/VbErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -12,12 +13,7 @@ namespace {
 
 long errorOf(Connection& c, const char* jet)
 {
-    try {
-        c.Execute(QString::fromUtf8(jet));
-    } catch (const VbError& e) {
-        return e.Number();
-    }
-    return 0;
+    return ErrorOf([&] { c.Execute(QString::fromUtf8(jet)); });
 }
 
 TEST(Connection, OpensOnlyAnExistingLedger)

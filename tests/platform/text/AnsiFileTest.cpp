@@ -2,6 +2,7 @@
 
 #include "platform/vb/VbError.h"
 #include "support/TempDir.h"
+#include "support/VbErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -13,12 +14,7 @@ namespace {
 
 long ErrorOfOpening(const QString& path)
 {
-    try {
-        AnsiFile file(path);
-    } catch (const vb::VbError& e) {
-        return e.Number();
-    }
-    return 0;
+    return ErrorOf([&] { AnsiFile file(path); });
 }
 
 } // namespace

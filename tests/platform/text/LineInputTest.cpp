@@ -2,6 +2,7 @@
 
 #include "platform/vb/VbError.h"
 #include "support/TempDir.h"
+#include "support/VbErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -22,12 +23,7 @@ std::vector<std::string> AllLines(const QByteArray& bytes)
 
 long ErrorOfReading(const QString& path)
 {
-    try {
-        ReadWholeFile(path);
-    } catch (const vb::VbError& e) {
-        return e.Number();
-    }
-    return 0;
+    return ErrorOf([&] { ReadWholeFile(path); });
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "platform/vb/VbError.h"
 
 #include "support/ScriptedDialogs.h"
+#include "support/VbErrors.h"
 
 #include <QAction>
 #include <QFontInfo>
@@ -15,16 +16,6 @@
 using ui::CommonDialog;
 
 namespace {
-
-long errorOf(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const vb::VbError& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 TEST(CommonDialog, SaveDialogAsTheListExportAsksForIt)
 {
@@ -46,13 +37,13 @@ TEST(CommonDialog, SaveDialogAsTheListExportAsksForIt)
     EXPECT_EQ(cd.FileTitle, QStringLiteral("一覧.csv"));
 
     // cancel with CancelError is error 32755 and leaves FileName as it was
-    EXPECT_EQ(errorOf([&] { cd.ShowOpen(); }), vb::Err::CancelSelected);
+    EXPECT_EQ(ErrorOf([&] { cd.ShowOpen(); }), vb::Err::CancelSelected);
     EXPECT_EQ(dialogs.calls().back().file.kind, ui::FileDialogRequest::Open);
     EXPECT_EQ(dialogs.calls().back().file.fileName, QStringLiteral("/home/kanri/一覧.csv"));
     EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
     // without it a cancel is silent
     cd.CancelError = false;
-    EXPECT_EQ(errorOf([&] { cd.ShowSave(); }), 0);
+    EXPECT_EQ(ErrorOf([&] { cd.ShowSave(); }), 0);
     EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
 }
 
@@ -62,17 +53,17 @@ TEST(CommonDialog, PrinterDialogAndItsSetupForm)
     CommonDialog cd;
     // the page layout command: setup form, cancel is no error
     cd.Flags = ui::cdlPDPrintSetup;
-    EXPECT_EQ(errorOf([&] { cd.ShowPrinter(); }), 0);
+    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), 0);
     EXPECT_EQ(dialogs.calls().back().kind, ScriptedDialogs::Call::Printer);
     EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::PrintSetup);
     // the print command: the print dialog, whose cancel is a failure
     cd.CancelError = true;
     cd.Flags = 0x140004;
-    EXPECT_EQ(errorOf([&] { cd.ShowPrinter(); }), vb::Err::CancelSelected);
+    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), vb::Err::CancelSelected);
     EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::Print);
     EXPECT_EQ(dialogs.calls().back().printer.flags, 0x140004);
     dialogs.answerPrinter(true);
-    EXPECT_EQ(errorOf([&] { cd.ShowPrinter(); }), 0);
+    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), 0);
 }
 
 class Fatal : public ::testing::Test {

@@ -2,6 +2,7 @@
 
 #include "platform/ui/Twips.h"
 #include "platform/vb/VbError.h"
+#include "support/VbErrors.h"
 
 #include <QHeaderView>
 #include <QScrollBar>
@@ -13,16 +14,6 @@
 using ui::FlexGrid;
 
 namespace {
-
-long errorOf(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const vb::VbError& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 // A grid of rows x cols cells, each holding "r,c".
 void fill(FlexGrid& g, int rows, int cols)
@@ -81,16 +72,16 @@ TEST(FlexGrid, KeepsCellsTheWayMSFlexGridDid)
     EXPECT_EQ(g.CellBackColorAt(2, 3), QColor(Qt::white));
 
     // a cell outside the grid is error 30009 for the row, 30010 for the column
-    EXPECT_EQ(errorOf([&] { g.SetRow(5); }), 30009);
-    EXPECT_EQ(errorOf([&] { g.SetRow(-1); }), 30009);
-    EXPECT_EQ(errorOf([&] { g.TextMatrix(5, 0); }), 30009);
-    EXPECT_EQ(errorOf([&] { g.SetTextMatrix(0, 6, QString()); }), 30010);
-    EXPECT_EQ(errorOf([&] { g.SetCol(6); }), 30010);
+    EXPECT_EQ(ErrorOf([&] { g.SetRow(5); }), 30009);
+    EXPECT_EQ(ErrorOf([&] { g.SetRow(-1); }), 30009);
+    EXPECT_EQ(ErrorOf([&] { g.TextMatrix(5, 0); }), 30009);
+    EXPECT_EQ(ErrorOf([&] { g.SetTextMatrix(0, 6, QString()); }), 30010);
+    EXPECT_EQ(ErrorOf([&] { g.SetCol(6); }), 30010);
     EXPECT_EQ(g.Row(), 2) << "a refused move leaves the current cell";
 
     g.SetRows(0);
     g.SetCols(0);
-    EXPECT_EQ(errorOf([&] { g.SetRow(0); }), 30009);
+    EXPECT_EQ(ErrorOf([&] { g.SetRow(0); }), 30009);
 }
 
 TEST(FlexGrid, HiddenFillReachesTheViewInOneStep)
