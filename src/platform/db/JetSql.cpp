@@ -138,21 +138,26 @@ bool isSqliteKeyword(QStringView word)
     return sqlite3_keyword_check(utf8.constData(), int(utf8.size())) != 0;
 }
 
-void appendQuotedName(QString& out, QStringView name)
+// Text between two quote characters, a quote inside doubled: "name" or 'literal'.
+void appendQuoted(QString& out, QStringView text, QChar quote)
 {
-    out += QLatin1Char('"');
-    if (!name.contains(QLatin1Char('"'))) {
-        out += name;
-        out += QLatin1Char('"');
+    out += quote;
+    if (!text.contains(quote)) {
+        out += text;
+        out += quote;
         return;
     }
-    for (QChar c : name) {
-        if (c == QLatin1Char('"'))
-            out += QLatin1Char('"');
+    for (QChar c : text) {
+        if (c == quote)
+            out += quote;
         out += c;
     }
-    out += QLatin1Char('"');
+    out += quote;
 }
+
+void appendQuotedName(QString& out, QStringView name) { appendQuoted(out, name, QLatin1Char('"')); }
+
+void appendStringLiteral(QString& out, QStringView value) { appendQuoted(out, value, QLatin1Char('\'')); }
 
 // Jet's string literal, 'x' or "x", as its value.
 QString stringValue(QStringView lit)
@@ -173,22 +178,6 @@ QString stringValue(QStringView lit)
             ++i;
     }
     return v;
-}
-
-void appendStringLiteral(QString& out, QStringView value)
-{
-    out += QLatin1Char('\'');
-    if (!value.contains(QLatin1Char('\''))) {
-        out += value;
-        out += QLatin1Char('\'');
-        return;
-    }
-    for (QChar c : value) {
-        if (c == QLatin1Char('\''))
-            out += QLatin1Char('\'');
-        out += c;
-    }
-    out += QLatin1Char('\'');
 }
 
 // #m/d/yyyy[ h:nn[:ss]]# in Jet's literal form (month first), as the ledger's date text.
