@@ -1,8 +1,9 @@
 // fenwold-admin: the companion program for scripts and administrators. It works on a ledger
-// without a window: makes an empty ledger, reads inventory files, writes the main list to a file.
+// without a window: makes an empty ledger, reads inventory files, writes the main list to a file,
+// backs the ledger up and checks it.
 #include "assetlist/ExportListCommand.h"
 #include "intake/ReadCommand.h"
-#include "ledger/LedgerFile.h"
+#include "ledger/LedgerCommands.h"
 #include "platform/ui/ConsoleDialogs.h"
 
 #include <QApplication>
@@ -23,23 +24,10 @@ void printUsage(std::FILE* to)
                "commands:\n"
                "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
                "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
-               "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   write the main list to OUT as CSV\n",
+               "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   write the main list to OUT as CSV\n"
+               "  backup [--ledger PATH] OUT   copy a ledger, in use or not, to the new file OUT\n"
+               "  check [--ledger PATH]   check the file and the ledger's consistency\n",
                to);
-}
-
-int newLedger(const QStringList& args)
-{
-    if (args.size() != 1) {
-        std::fputs("usage: fenwold-admin new-ledger PATH\n", stderr);
-        return 1;
-    }
-    const QString error = ledger::CreateLedger(args.first());
-    if (!error.isEmpty()) {
-        std::fprintf(stderr, "fenwold-admin: %s\n", error.toUtf8().constData());
-        return 1;
-    }
-    std::printf("%s\n", args.first().toUtf8().constData());
-    return 0;
 }
 
 } // namespace
@@ -64,9 +52,11 @@ int main(int argc, char** argv)
     }
     const QString command = args.takeFirst();
     const std::pair<const char*, std::function<int(const QStringList&)>> commands[] = {
-        {"new-ledger", newLedger},
+        {"new-ledger", ledger::NewLedgerCommand},
         {"read", ReadCommand},
         {"export-list", ExportListCommand},
+        {"backup", ledger::BackupCommand},
+        {"check", ledger::CheckCommand},
     };
     for (const auto& [name, run] : commands)
         if (command == QLatin1String(name))

@@ -41,33 +41,74 @@ namespace {
 constexpr qint64 kBatchMilliseconds = 250;
 } // namespace
 
-InventoryReader::~InventoryReader() { Commit(); }
-
-void InventoryReader::Commit()
+InventoryReader::InventoryReader(InventoryLanguage language, Report onWritten)
+    : m_language(language), m_report(std::move(onWritten))
 {
-    // Only an engine that gave up the whole transaction (a full disk) makes this fail; what it
-    // kept is then already written.
-    if (m_batch)
-        vb::ResumeNext([&] { m_batch->Commit(); });
-    m_batch.reset();
 }
 
-InventoryFileResult InventoryReader::Read(const QString& path)
+InventoryReader::~InventoryReader() = default;
+
+void InventoryReader::lose(const vb::VbError& e)
+{
+    m_failure = e;
+    m_batch.reset();
+    for (InventoryFileResult& r : m_pending) {
+        r.outcome = InventoryFileResult::NotWritten;
+        r.reason = e.Description();
+        if (m_report)
+            m_report(r);
+    }
+    m_pending.clear();
+}
+
+bool InventoryReader::Commit()
+{
+    if (m_failure)
+        return false;
+    if (m_batch) {
+        try {
+            m_batch->Commit();
+        } catch (const vb::VbError& e) {
+            lose(e);
+            return false;
+        }
+        m_batch.reset();
+    }
+    for (const InventoryFileResult& r : m_pending)
+        if (m_report)
+            m_report(r);
+    m_pending.clear();
+    return true;
+}
+
+bool InventoryReader::Read(const QString& path)
+{
+    if (m_failure)
+        return false;
+    if (!m_batch) {
+        try {
+            m_batch = std::make_unique<db::Transaction>(Mdl_gData::DbConnection());
+        } catch (const vb::VbError& e) {
+            InventoryFileResult result;
+            result.path = path;
+            m_pending.push_back(result);
+            lose(e);
+            return false;
+        }
+        m_batchAge.start();
+    }
+    m_pending.push_back(readOne(path));
+    // A failure of the engine lost the batch: its statements after it were refused, so there is
+    // no point in going on; the commit reports it.
+    if (Mdl_gData::DbConnection().LostTransaction() || m_batchAge.elapsed() >= kBatchMilliseconds)
+        return Commit();
+    return true;
+}
+
+InventoryFileResult InventoryReader::readOne(const QString& path)
 {
     InventoryFileResult result;
     result.path = path;
-    if (!m_batch) {
-        m_batch = std::make_unique<db::Transaction>(Mdl_gData::DbConnection());
-        m_batchAge.start();
-    }
-    struct CommitWhenDue {
-        InventoryReader& r;
-        ~CommitWhenDue()
-        {
-            if (r.m_batchAge.elapsed() >= kBatchMilliseconds)
-                r.Commit();
-        }
-    } due{*this};
 
     // From here on a failing statement is skipped and the next one runs. A file that cannot be
     // opened fails inside the test of ReadCsvToStaging, so the test is what is skipped: a
@@ -81,6 +122,8 @@ InventoryFileResult InventoryReader::Read(const QString& path)
         result.outcome = InventoryFileResult::Unreadable;
         result.reason = e.Description();
     }
+    if (Mdl_gData::DbConnection().LostTransaction())
+        return result;
 
     try {
         m_key = vb::IntAdd(MaxMainKey(), 1);
@@ -97,13 +140,25 @@ InventoryFileResult InventoryReader::Read(const QString& path)
     return result;
 }
 
-void ReadInventoryFiles(const QStringList& paths, InventoryLanguage language,
-                        const std::function<void(const InventoryFileResult&)>& onFile)
+InventoryRunResult ReadInventoryFiles(const QStringList& paths, InventoryLanguage language,
+                                      const std::function<void(const InventoryFileResult&)>& onFile)
 {
-    InventoryReader reader(language);
-    for (const QString& path : paths) {
-        const InventoryFileResult result = reader.Read(path);
-        if (onFile)
-            onFile(result);
+    InventoryReader reader(language, onFile);
+    qsizetype next = 0;
+    while (next < paths.size() && reader.Read(paths[next]))
+        ++next;
+    if (next == paths.size())
+        reader.Commit();
+    else
+        ++next;  // the file whose batch failed was reported with it
+    if (reader.Failure() && onFile) {
+        for (; next < paths.size(); ++next) {
+            InventoryFileResult skipped;
+            skipped.path = paths[next];
+            skipped.outcome = InventoryFileResult::NotAttempted;
+            skipped.reason = reader.Failure()->Description();
+            onFile(skipped);
+        }
     }
+    return {reader.Failure()};
 }

@@ -3,6 +3,7 @@
 #include "intake/InventoryFieldMap.h"
 
 #include "platform/db/Connection.h"
+#include "platform/vb/VbError.h"
 
 #include <QElapsedTimer>
 #include <QString>
@@ -11,6 +12,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
 // The bulk read of inventory files: each accepted file becomes a new computer, with its row in
 // tbl_Computer_List and tbl_Pclist, the 107 fields of the field map, and its applications,
@@ -25,48 +28,69 @@ struct InventoryFileResult {
         RefusedHeader,  // first line empty or not the header: nothing changed
         Unreadable,     // could not be opened or read: the computer mainKey was made from what
                         // tbl_ReadCsv still held
+        NotWritten,     // read, but the ledger could not be written: nothing of it was kept
+        NotAttempted,   // not looked at: the run stopped at a write that failed before it
     };
     QString path;
     Outcome outcome = Read;
     std::int16_t mainKey = 0;  // the key written to (Read, Unreadable)
     bool keyOverflow = false;  // the highest key was 32767: no new key, the previous one was
                                // written to again
-    QString reason;            // Unreadable: the error's description
+    QString reason;            // Unreadable, NotWritten, NotAttempted: the error's description
+};
+
+// What a run came to. failure is set when the ledger could not be written; the run stopped
+// there, and the files of the batch it lost are reported NotWritten.
+struct InventoryRunResult {
+    std::optional<vb::VbError> failure;
 };
 
 // One run of the reader over files, in the language the user chose. The key lives as long as
-// the run: when the next key would pass 32767 the addition
-// fails, the key stays what it was, and the file's values land on that computer.
+// the run: when the next key would pass 32767 the addition fails, the key stays what it was, and
+// the file's values land on that computer.
+//
+// The run's statements go into the ledger in batches: a savepoint is opened before a file and
+// committed after the file that ends a quarter of a second of work, and at the end of the run.
+// A refused statement still drops alone (SQLite undoes only that statement), files are committed
+// between, never within, so a run that is killed leaves each computer whole or absent, and the
+// run is many times faster than with a commit per statement or per file.
+//
+// A file is reported (onWritten) only once the batch that holds it is committed. When the
+// ledger cannot be written (a full disk, a read-only file, another program holding it), the
+// batch is rolled back whole, its files are reported NotWritten with the reason, and the run
+// stops: Read and Commit answer false from then on.
 class InventoryReader {
 public:
-    explicit InventoryReader(InventoryLanguage language) : m_language(language) {}
-    // Commits what the run wrote.
+    using Report = std::function<void(const InventoryFileResult&)>;
+    InventoryReader(InventoryLanguage language, Report onWritten);
+    // Rolls back a batch that was not committed; reports nothing.
     ~InventoryReader();
     InventoryReader(const InventoryReader&) = delete;
     InventoryReader& operator=(const InventoryReader&) = delete;
 
-    // Reads one file into the ledger through DbConnection and sets LastReadMainKey.
-    //
-    // The run's statements go into the ledger in batches: a savepoint is opened before a file
-    // and committed after the file that ends a quarter of a second of work, and at the end of
-    // the run. A refused statement still drops alone (SQLite undoes only that statement), files
-    // are committed between, never within, so a run that is killed leaves each computer whole or
-    // absent, and the run is many times faster than with a commit per statement or per file.
-    InventoryFileResult Read(const QString& path);
-
-    // Commits the open batch now; the next file opens a new one.
-    void Commit();
+    // Reads one file into the ledger through DbConnection and sets LastReadMainKey. False when
+    // the ledger could not be written.
+    bool Read(const QString& path);
+    // Commits the open batch and reports its files. False when the commit failed.
+    bool Commit();
+    const std::optional<vb::VbError>& Failure() const { return m_failure; }
 
 private:
+    InventoryFileResult readOne(const QString& path);
     void writeFieldMap(const QString& key);
+    void lose(const vb::VbError& e);
 
     InventoryLanguage m_language;
+    Report m_report;
     std::int16_t m_key = 0;
     std::unique_ptr<db::Transaction> m_batch;
+    std::vector<InventoryFileResult> m_pending;  // read into the open batch, not yet reported
+    std::optional<vb::VbError> m_failure;
     QElapsedTimer m_batchAge;
 };
 
-// ReadInventoryFiles: the run that both read commands share, file by file in the given order;
-// onFile hears of each file as soon as it is done.
-void ReadInventoryFiles(const QStringList& paths, InventoryLanguage language,
-                        const std::function<void(const InventoryFileResult&)>& onFile = {});
+// ReadInventoryFiles: the run that both read commands share, file by file in the given order.
+// onFile hears of each file once it is committed, or NotWritten/NotAttempted after a failed
+// write; every path is reported exactly once, in order.
+InventoryRunResult ReadInventoryFiles(const QStringList& paths, InventoryLanguage language,
+                                      const std::function<void(const InventoryFileResult&)>& onFile = {});

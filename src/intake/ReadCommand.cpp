@@ -1,68 +1,11 @@
 #include "intake/ReadCommand.h"
 
+#include "foundation/AdminLedger.h"
 #include "foundation/Mdl_Access_mdb.h"
-#include "foundation/Mdl_gData.h"
 #include "intake/InventoryRead.h"
-#include "platform/app/App.h"
-#include "platform/db/Recordset.h"
-
-#include <QFileInfo>
-
-#include <cstdio>
+#include "platform/app/CommandLine.h"
 
 namespace {
-
-constexpr int kAllRead = 0;
-constexpr int kUsageOrLedger = 1;
-constexpr int kSomeRefused = 2;
-
-void print(std::FILE* to, const QString& line) { std::fprintf(to, "%s\n", line.toUtf8().constData()); }
-
-int usage(const QString& why)
-{
-    if (!why.isEmpty())
-        print(stderr, QStringLiteral("fenwold-admin read: ") + why);
-    std::fputs("usage: fenwold-admin read [--english] [--ledger PATH] FILE...\n", stderr);
-    return kUsageOrLedger;
-}
-
-// Opens the ledger into DbConnection. A file named pcdb.mdb opens the way the program opens
-// its own, with its folder as the program folder; any other name opens directly.
-bool openLedger(const QString& path)
-{
-    const QFileInfo info(path);
-    if (!info.isFile()) {
-        print(stderr, QStringLiteral("fenwold-admin read: no ledger at ") + path);
-        return false;
-    }
-    // what ConnectDatabase would write to the main window's status bar
-    Mdl_gData::StatusPanelText = [](const QString& text) { print(stderr, QStringLiteral("fenwold-admin read: ") + text); };
-    if (info.fileName() == QLatin1String("pcdb.mdb")) {
-        app::SetPath(info.absolutePath());
-        if (!Mdl_Access_mdb::ConnectDatabase())
-            return false;
-    } else {
-        try {
-            Mdl_gData::DbConnection().Open(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + info.absoluteFilePath());
-        } catch (const vb::VbError& e) {
-            print(stderr, QStringLiteral("fenwold-admin read: ") + e.Description());
-            return false;
-        }
-    }
-    // An SQLite file without the ledger's tables opens too; every statement would then fail in
-    // silence, so ask for the computer table first.
-    try {
-        db::Recordset rs;
-        rs.Open(QStringLiteral("SELECT MAX( MainKey ) FROM tbl_Computer_List"), Mdl_gData::DbConnection());
-        rs.Close();
-    } catch (const vb::VbError& e) {
-        print(stderr, QStringLiteral("fenwold-admin read: not a ledger: ") + path + QStringLiteral(" (") + e.Description()
-                          + QStringLiteral(")"));
-        Mdl_gData::DbConnection().Close();
-        return false;
-    }
-    return true;
-}
 
 QString describe(const InventoryFileResult& r)
 {
@@ -77,6 +20,10 @@ QString describe(const InventoryFileResult& r)
         return r.path + QStringLiteral(": refused, cannot be read (") + r.reason + QStringLiteral("); ")
                + (r.keyOverflow ? QStringLiteral("values of the staged file written onto ") + key
                                 : key + QStringLiteral(" made from the staged file"));
+    case InventoryFileResult::NotWritten:
+        return r.path + QStringLiteral(": not read, the ledger could not be written (") + r.reason + QStringLiteral(")");
+    case InventoryFileResult::NotAttempted:
+        return r.path + QStringLiteral(": not read, the read stopped at the failed write");
     }
     return r.path;
 }
@@ -85,42 +32,38 @@ QString describe(const InventoryFileResult& r)
 
 int ReadCommand(const QStringList& args)
 {
-    InventoryLanguage language = InventoryLanguage::Japanese;
-    QString ledgerPath;
-    QStringList files;
-    bool options = true;
-    for (qsizetype i = 0; i < args.size(); ++i) {
-        const QString& a = args[i];
-        if (options && a == QLatin1String("--")) {
-            options = false;
-        } else if (options && a == QLatin1String("--english")) {
-            language = InventoryLanguage::English;
-        } else if (options && a == QLatin1String("--ledger")) {
-            if (++i >= args.size())
-                return usage(QStringLiteral("--ledger needs a PATH"));
-            ledgerPath = args[i];
-        } else if (options && a.startsWith(QLatin1String("--"))) {
-            return usage(QStringLiteral("unknown option ") + a);
-        } else {
-            files << a;
-        }
-    }
+    app::CommandLine command("read", "[--english] [--ledger PATH] FILE...", {{"--english", false}, {"--ledger", true}});
+    if (!command.Parse(args))
+        return app::ExitFailed;
+    const QStringList& files = command.Operands();
     if (files.isEmpty())
-        return usage(QStringLiteral("no inventory file given"));
-    if (ledgerPath.isEmpty())
-        ledgerPath = app::Path() + QStringLiteral("/pcdb.mdb");
-    if (!openLedger(ledgerPath))
-        return kUsageOrLedger;
+        return command.Usage(QStringLiteral("no inventory file given"));
+    if (!AdminLedger::Open(command, AdminLedger::PathOf(command)))
+        return app::ExitFailed;
 
+    const InventoryLanguage language = command.Has("--english") ? InventoryLanguage::English : InventoryLanguage::Japanese;
     int read = 0;
     int refused = 0;
-    ReadInventoryFiles(files, language, [&](const InventoryFileResult& r) {
-        const bool ok = r.outcome == InventoryFileResult::Read && !r.keyOverflow;
-        ok ? ++read : ++refused;
-        print(stdout, describe(r));
+    int notRead = 0;
+    const InventoryRunResult run = ReadInventoryFiles(files, language, [&](const InventoryFileResult& r) {
+        if (r.outcome == InventoryFileResult::NotWritten || r.outcome == InventoryFileResult::NotAttempted)
+            ++notRead;
+        else if (r.outcome == InventoryFileResult::Read && !r.keyOverflow)
+            ++read;
+        else
+            ++refused;
+        app::PrintLine(stdout, describe(r));
         std::fflush(stdout);
     });
-    print(stdout, QStringLiteral("%1 of %2 files read, %3 refused").arg(read).arg(files.size()).arg(refused));
-    Mdl_Access_mdb::DisconnectDatabase();
-    return refused == 0 ? kAllRead : kSomeRefused;
+    QString summary = QStringLiteral("%1 of %2 files read, %3 refused").arg(read).arg(files.size()).arg(refused);
+    if (run.failure) {
+        summary += QStringLiteral(", %1 not read: the ledger could not be written").arg(notRead);
+        // the error as the window's box shows it, with its number
+        Mdl_Access_mdb::StandardErrorBox(*run.failure);
+    }
+    app::PrintLine(stdout, summary);
+    AdminLedger::Close();
+    if (run.failure)
+        return app::ExitFailed;
+    return refused == 0 ? app::ExitDone : app::ExitSomeRefused;
 }

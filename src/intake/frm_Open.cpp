@@ -239,26 +239,46 @@ void frm_Open::readSelectedFiles(InventoryLanguage language)
             ProgressBar1->setMaximum(count > 1 ? count - 1 : 1);
             ProgressBar1->setMinimum(0);
         }
-        {
-            // one reader for the run, whose key lives as long as the run; it has written
-            // everything to the ledger when it ends, before the end message shows
-            InventoryReader reader(language);
-            for (int i = 0; i < count; ++i) {
-                if (japanese)
-                    step([&] {
-                        ProgressBar1->setValue(count > 1 ? i : 1);
-                        // the run holds the event loop: the bar is painted now or not at all
-                        ProgressBar1->repaint();
-                    });
-                if (!File1->item(i)->isSelected())
-                    continue;
-                const QString path = JoinPath(File1->Path(), File1->item(i)->text());
-                resuming = true;
-                // a refused file is skipped without a word
-                step([&] { reader.Read(path); });
+        // The selected files, and where each stands in the whole list. The bar walks the list
+        // up to the place of the last file that is in the ledger: a file counts only once the
+        // commit that holds it has succeeded.
+        QStringList paths;
+        std::vector<int> places;
+        for (int i = 0; i < count; ++i) {
+            if (File1->item(i)->isSelected()) {
+                paths << JoinPath(File1->Path(), File1->item(i)->text());
+                places.push_back(i);
             }
         }
-        step([&] { ui::MsgBox(japanese ? QStringLiteral("読み込みが完了しました。") : QStringLiteral("Process Comprete")); });
+        int shown = -1;
+        auto walkTo = [&](int place) {
+            if (!japanese)
+                return;
+            for (; shown < place; ++shown) {
+                const int i = shown + 1;
+                step([&] {
+                    ProgressBar1->setValue(count > 1 ? i : 1);
+                    // the run holds the event loop: the bar is painted now or not at all
+                    ProgressBar1->repaint();
+                });
+            }
+        };
+        resuming = !paths.isEmpty();
+        // a refused file is skipped without a word
+        size_t reported = 0;
+        const InventoryRunResult run = ReadInventoryFiles(paths, language, [&](const InventoryFileResult& r) {
+            const int place = places[reported++];
+            if (r.outcome != InventoryFileResult::NotWritten && r.outcome != InventoryFileResult::NotAttempted)
+                walkTo(place);
+        });
+        if (run.failure) {
+            // The ledger could not be written: the files of the lost batch are not in it, and the
+            // read stopped. Say so instead of the end message, and list what the ledger holds.
+            StandardErrorBox(*run.failure);
+        } else {
+            walkTo(count - 1);
+            step([&] { ui::MsgBox(japanese ? QStringLiteral("読み込みが完了しました。") : QStringLiteral("Process Comprete")); });
+        }
         step([&] {
             if (MainList* list = MainList::Instance())
                 list->fnc_View_PClist();

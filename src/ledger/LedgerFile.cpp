@@ -32,7 +32,7 @@ QString CreateLedger(const QString& path)
     QString error;
     if (rc == SQLITE_OK) {
         char* msg = nullptr;
-        const QByteArray sql = "BEGIN;\n" + SchemaSql() + "\nCOMMIT;\nPRAGMA journal_mode = WAL;";
+        const QByteArray sql = "BEGIN;\n" + SchemaSql() + "\nCOMMIT;";
         rc = sqlite3_exec(db, sql.constData(), nullptr, nullptr, &msg);
         if (rc != SQLITE_OK)
             error = QString::fromUtf8(msg ? msg : sqlite3_errstr(rc));
@@ -41,8 +41,6 @@ QString CreateLedger(const QString& path)
         error = QString::fromUtf8(sqlite3_errstr(rc));
     }
     sqlite3_close(db);
-    QFile::remove(temp + QStringLiteral("-wal"));
-    QFile::remove(temp + QStringLiteral("-shm"));
     if (error.isEmpty() && !QFile::rename(temp, path))
         error = QStringLiteral("cannot move the new file into place");
     if (!error.isEmpty()) {

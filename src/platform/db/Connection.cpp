@@ -68,16 +68,24 @@ void Connection::Open(const QString& connectionString)
     m_path = path;
     try {
         sqlite3_extended_result_codes(m_db, 1);
-        sqlite3_busy_timeout(m_db, 2000);
+        sqlite3_busy_timeout(m_db, BusyTimeoutMilliseconds);
         // reading the schema tells a ledger from any other file
         run("SELECT count(*) FROM sqlite_master");
-        run("PRAGMA journal_mode = WAL");
-        run("PRAGMA synchronous = NORMAL");
-        run("PRAGMA foreign_keys = OFF");
     } catch (const vb::VbError&) {
         sqlite3_close(m_db);
         m_db = nullptr;
         throw EngineError::UnrecognisedFormat(path);
+    }
+    try {
+        // The rollback journal keeps the ledger in its one file between commits; a ledger of an
+        // earlier version in WAL mode is turned back here (that needs no other process on it).
+        run("PRAGMA journal_mode = DELETE");
+        run("PRAGMA synchronous = FULL");
+        run("PRAGMA foreign_keys = OFF");
+    } catch (const vb::VbError&) {
+        sqlite3_close(m_db);
+        m_db = nullptr;
+        throw;
     }
     m_cache = std::make_unique<StatementCache>(m_db);
     m_level = 0;
@@ -91,9 +99,11 @@ void Connection::Close()
     m_rowidShape.clear();
     m_rowidTables.clear();
     m_selects.clear();
-    if (m_level > 0)
+    if (!sqlite3_get_autocommit(m_db))
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
     m_level = 0;
+    m_savepoints = 0;
+    m_lost.reset();
     sqlite3_close_v2(m_db);
     m_db = nullptr;
 }
@@ -102,6 +112,67 @@ void Connection::requireOpen() const
 {
     if (!m_db)
         throw EngineError::ConnectionClosed();
+    if (m_lost)
+        throw *m_lost;
+}
+
+namespace {
+
+// Failures of the engine or the file, as opposed to a statement the ledger refuses: after one of
+// these the transaction cannot be trusted to hold what its statements wrote. A read-only file and
+// a file held by another writer belong here too: every write of the transaction would fail alone
+// and its commit would then succeed with nothing in it.
+bool losesTransaction(int extendedCode)
+{
+    switch (extendedCode & 0xff) {
+    case SQLITE_BUSY:
+    case SQLITE_READONLY:
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_NOMEM:
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_CANTOPEN:
+    case SQLITE_PROTOCOL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+vb::VbError Connection::failure(int extendedCode)
+{
+    vb::VbError e = EngineError::FromSqlite(m_db, extendedCode, m_path);
+    if (m_db && inTransaction() && !m_lost && (losesTransaction(extendedCode) || sqlite3_get_autocommit(m_db))) {
+        // The engine may have rolled back already (it does for some of these); make it definite.
+        if (!sqlite3_get_autocommit(m_db))
+            sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+        m_lost = e;
+    }
+    return e;
+}
+
+void Connection::commitOutermost(const char* sql)
+{
+    char* err = nullptr;
+    const int rc = sqlite3_exec(m_db, sql, nullptr, nullptr, &err);
+    sqlite3_free(err);
+    if (rc == SQLITE_OK)
+        return;
+    // A commit kept from the disk (full, read-only, held by another process past the timeout)
+    // leaves the transaction open; end it, so that the ledger is what it was before it began.
+    const vb::VbError e = EngineError::FromSqlite(m_db, sqlite3_extended_errcode(m_db), m_path);
+    if (!sqlite3_get_autocommit(m_db))
+        sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    throw e;
+}
+
+void Connection::scopeEnded()
+{
+    if (!inTransaction())
+        m_lost.reset();
 }
 
 long Connection::Execute(const QString& jetSql)
@@ -110,7 +181,7 @@ long Connection::Execute(const QString& jetSql)
     const JetStatement st = JetSql::ParseShape(jetSql);
     Statement s = m_cache->acquire(st.shape);
     s.bind(st.params);
-    return s.runToEnd(m_db);
+    return s.runToEnd(*this);
 }
 
 JetStatement Connection::parse(const QString& jetSql)
@@ -187,7 +258,7 @@ Statement Connection::prepare(const JetStatement& st, bool withRowids)
 long Connection::BeginTrans()
 {
     requireOpen();
-    if (m_level == 0)
+    if (!inTransaction())
         run("BEGIN");
     else
         run(QByteArray("SAVEPOINT ado_level_" + QByteArray::number(qlonglong(m_level + 1))).constData());
@@ -196,29 +267,49 @@ long Connection::BeginTrans()
 
 void Connection::CommitTrans()
 {
-    requireOpen();
+    if (!m_db)
+        throw EngineError::ConnectionClosed();
     if (m_level == 0)
         throw vb::VbError(EngineError::Fail, QStringLiteral("アクティブなトランザクションがありません。"));
-    if (m_level == 1)
-        run("COMMIT");
+    struct EndLevel {
+        Connection& c;
+        ~EndLevel()
+        {
+            --c.m_level;
+            c.scopeEnded();
+        }
+    } end{*this};
+    if (m_lost)
+        throw *m_lost;
+    if (m_level == 1 && m_savepoints == 0)
+        commitOutermost("COMMIT");
     else
         run(QByteArray("RELEASE ado_level_" + QByteArray::number(qlonglong(m_level))).constData());
-    --m_level;
 }
 
 void Connection::RollbackTrans()
 {
-    requireOpen();
+    if (!m_db)
+        throw EngineError::ConnectionClosed();
     if (m_level == 0)
         throw vb::VbError(EngineError::Fail, QStringLiteral("アクティブなトランザクションがありません。"));
-    if (m_level == 1) {
+    struct EndLevel {
+        Connection& c;
+        ~EndLevel()
+        {
+            --c.m_level;
+            c.scopeEnded();
+        }
+    } end{*this};
+    if (m_lost)
+        return;  // already rolled back
+    if (m_level == 1 && m_savepoints == 0) {
         run("ROLLBACK");
     } else {
         const QByteArray name = "ado_level_" + QByteArray::number(qlonglong(m_level));
         run(QByteArray("ROLLBACK TO " + name).constData());
         run(QByteArray("RELEASE " + name).constData());
     }
-    --m_level;
 }
 
 Transaction::Transaction(Connection& c) : m_conn(c)
@@ -228,25 +319,50 @@ Transaction::Transaction(Connection& c) : m_conn(c)
     m_name = "fenwold_" + QByteArray::number(++counter);
     const QByteArray sql = "SAVEPOINT " + m_name;
     if (sqlite3_exec(m_conn.handle(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw EngineError::FromSqlite(m_conn.handle(), sqlite3_extended_errcode(m_conn.handle()));
+        throw EngineError::FromSqlite(m_conn.handle(), sqlite3_extended_errcode(m_conn.handle()), m_conn.m_path);
+    ++m_conn.m_savepoints;
 }
 
 void Transaction::Commit()
 {
     if (m_done)
         return;
+    if (m_conn.m_lost)
+        throw *m_conn.m_lost;
+    const bool outermost = m_conn.m_savepoints == 1 && m_conn.m_level == 0;
     const QByteArray sql = "RELEASE " + m_name;
+    if (outermost) {
+        // whatever happens, the savepoint is gone afterwards: released, or rolled back with the
+        // transaction it opened
+        m_done = true;
+        struct End {
+            Connection& c;
+            ~End()
+            {
+                --c.m_savepoints;
+                c.scopeEnded();
+            }
+        } end{m_conn};
+        m_conn.commitOutermost(sql.constData());
+        return;
+    }
     if (sqlite3_exec(m_conn.handle(), sql.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
-        throw EngineError::FromSqlite(m_conn.handle(), sqlite3_extended_errcode(m_conn.handle()));
+        throw m_conn.failure(sqlite3_extended_errcode(m_conn.handle()));
     m_done = true;
+    --m_conn.m_savepoints;
+    m_conn.scopeEnded();
 }
 
 Transaction::~Transaction()
 {
     if (m_done || !m_conn.handle())
         return;
-    const QByteArray sql = "ROLLBACK TO " + m_name + "; RELEASE " + m_name;
-    sqlite3_exec(m_conn.handle(), sql.constData(), nullptr, nullptr, nullptr);
+    if (!m_conn.m_lost) {
+        const QByteArray sql = "ROLLBACK TO " + m_name + "; RELEASE " + m_name;
+        sqlite3_exec(m_conn.handle(), sql.constData(), nullptr, nullptr, nullptr);
+    }
+    --m_conn.m_savepoints;
+    m_conn.scopeEnded();
 }
 
 } // namespace db

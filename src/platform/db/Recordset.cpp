@@ -236,7 +236,7 @@ void Recordset::Open(const QString& source, Connection& connection, CursorType, 
         ++rows;
     }
     if (rc != SQLITE_DONE)
-        throw EngineError::FromSqlite(connection.handle(), sqlite3_extended_errcode(connection.handle()));
+        throw connection.failure(sqlite3_extended_errcode(connection.handle()));
 
     m_rows = rows;
     m_deleted.assign(size_t(rows), 0);
@@ -496,7 +496,7 @@ void Recordset::Update()
         int at = 1;
         for (const auto& [col, value] : m_pending)
             bindVariant(s.handle(), at++, value, keep);
-        s.runToEnd(m_conn->handle());
+        s.runToEnd(*m_conn);
 
         const long long rowid = sqlite3_last_insert_rowid(m_conn->handle());
         for (int c = 0; c < m_cols; ++c) {
@@ -532,7 +532,7 @@ void Recordset::Update()
             for (int col : cols)
                 bindVariant(s.handle(), at++, m_pending[col], keep);
             sqlite3_bind_int64(s.handle(), at, m_rowids[size_t(m_pos) * size_t(cs.rowidCount) + size_t(slot)]);
-            s.runToEnd(m_conn->handle());
+            s.runToEnd(*m_conn);
         }
         tx.Commit();
         for (const auto& [col, value] : m_pending)
@@ -557,7 +557,7 @@ void Recordset::Delete()
     for (int slot = 0; slot < cs.rowidCount; ++slot) {
         Statement s = m_conn->prepareSql(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(quoteName(cs.rowidTables[size_t(slot)])));
         sqlite3_bind_int64(s.handle(), 1, m_rowids[size_t(m_pos) * size_t(cs.rowidCount) + size_t(slot)]);
-        s.runToEnd(m_conn->handle());
+        s.runToEnd(*m_conn);
     }
     tx.Commit();
     m_deleted[size_t(m_pos)] = 1;

@@ -1,6 +1,6 @@
 #include "platform/db/Statement.h"
 
-#include "platform/db/EngineError.h"
+#include "platform/db/Connection.h"
 #include "platform/db/StatementCache.h"
 
 #include <QStringEncoder>
@@ -76,15 +76,15 @@ void Statement::bind(const std::vector<Literal>& params)
     }
 }
 
-int Statement::runToEnd(sqlite3* db)
+int Statement::runToEnd(Connection& connection)
 {
     int rc;
     while ((rc = sqlite3_step(m_stmt)) == SQLITE_ROW) {
     }
+    sqlite3* db = connection.handle();
     if (rc != SQLITE_DONE) {
         // the extended code tells a unique key from a check
-        const int ext = sqlite3_extended_errcode(db);
-        vb::VbError e = EngineError::FromSqlite(db, ext);
+        vb::VbError e = connection.failure(sqlite3_extended_errcode(db));
         sqlite3_reset(m_stmt);
         throw e;
     }

@@ -12,6 +12,7 @@ struct sqlite3_stmt;
 
 namespace db {
 
+class Connection;
 class StatementCache;
 
 // A prepared statement borrowed from the connection's cache for one run. It finalises or goes
@@ -31,8 +32,9 @@ public:
 
     // Binds the lifted literals of a statement, 1-based in order.
     void bind(const std::vector<Literal>& params);
-    // Steps to the end; throws the engine's error. Returns the rows changed.
-    int runToEnd(sqlite3* db);
+    // Steps to the end; throws the engine's error (see Connection::failure). Returns the rows
+    // changed.
+    int runToEnd(Connection& connection);
 
 private:
     void release();
