@@ -200,7 +200,7 @@ CheckReport CheckLedger(const QString& path)
     QStringList problems;
     const QString failed = eachRow(db.get(), "PRAGMA integrity_check", [&](const QString& row) {
         if (row != QLatin1String("ok"))
-            problems << row;
+            problems << row.simplified();
     });
     if (!failed.isEmpty())
         problems << failed;

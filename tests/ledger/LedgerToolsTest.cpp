@@ -1,0 +1,161 @@
+// fenwold-admin backup and check, run as processes the way an administrator runs them.
+#include "support/AdminProcess.h"
+#include "support/TempDir.h"
+#include "support/TempLedger.h"
+#include "TestPaths.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QThread>
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+#include <sqlite3.h>
+
+namespace {
+
+
+
+// What every copy of a ledger must be: whole by SQLite's check, and each of its computers
+// complete (the read made each from the same file). Returns how many computers it holds.
+int ExpectWholeLedger(const QString& path)
+{
+    sqlite3* raw = nullptr;
+    EXPECT_EQ(sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
+    std::unique_ptr<sqlite3, decltype(&sqlite3_close)> db(raw, &sqlite3_close);
+    auto value = [&](const QString& sql) {
+        sqlite3_stmt* st = nullptr;
+        EXPECT_EQ(sqlite3_prepare_v2(db.get(), sql.toUtf8().constData(), -1, &st, nullptr), SQLITE_OK) << sql.toStdString();
+        QString out;
+        if (sqlite3_step(st) == SQLITE_ROW)
+            out = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+        sqlite3_finalize(st);
+        return out;
+    };
+    EXPECT_EQ(value(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
+    EXPECT_EQ(value(QStringLiteral("PRAGMA journal_mode")), QStringLiteral("delete"));
+    // every computer has its inventory row and all its per-computer rows, or is absent
+    EXPECT_EQ(value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey NOT IN (SELECT MainKey FROM tbl_Pclist)")),
+              QStringLiteral("0"));
+    EXPECT_EQ(value(QStringLiteral("SELECT count(*) FROM tbl_Pclist WHERE MainKey > 0 AND Computer_Name IS NOT 'PC-SOUMU-01'")),
+              QStringLiteral("0"));
+    const int computers = value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey > 0")).toInt();
+    if (computers > 0)
+        EXPECT_EQ(value(QStringLiteral("SELECT group_concat(n) FROM (SELECT DISTINCT (SELECT count(*) FROM tbl_ApplicationsList a "
+                                       "WHERE a.\"Key\" = c.MainKey) || '/' || (SELECT count(*) FROM tbl_Environmental e "
+                                       "WHERE e.\"Key\" = c.MainKey) AS n FROM tbl_Computer_List c WHERE MainKey > 0)")),
+                  QStringLiteral("5/3"));
+    return computers;
+}
+
+TEST(Backup, CopiesALedgerWhileAReadWritesItAndNeverOverwrites)
+{
+    TempLedger ledger;
+    ledger.closeConnection();
+    TempDir out;
+    QStringList read = {QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path()};
+    for (int i = 0; i < 1500; ++i)
+        read << TestDataPath(QStringLiteral("inventory/ja_pc01.csv"));
+    QProcess reader;
+    reader.start(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), read);
+    ASSERT_TRUE(reader.waitForStarted());
+
+    QStringList copies;
+    for (int i = 0; i < 3; ++i) {
+        QThread::msleep(300);
+        const QString copy = out.file(QStringLiteral("copy%1.mdb").arg(i));
+        const AdminRun r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), ledger.path(), copy});
+        EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+        EXPECT_EQ(r.out, QStringList{copy});
+        copies << copy;
+    }
+    EXPECT_EQ(reader.state(), QProcess::Running) << "the read ended before the copies were made; make it longer";
+    ASSERT_TRUE(reader.waitForFinished(120000));
+    EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().toStdString();
+
+    int largest = 0;
+    for (const QString& copy : copies)
+        largest = std::max(largest, ExpectWholeLedger(copy));
+    EXPECT_GT(largest, 0) << "no copy caught a committed batch";
+    EXPECT_EQ(ExpectWholeLedger(ledger.path()), 1500);
+
+    // an existing file stays as it was; no ledger, no copy
+    QFile existing(out.file(QStringLiteral("existing.mdb")));
+    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
+    existing.write("mine");
+    existing.close();
+    AdminRun r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), ledger.path(), existing.fileName()});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.err.contains(QStringLiteral("never overwrites"))) << r.err.toStdString();
+    ASSERT_TRUE(existing.open(QIODevice::ReadOnly));
+    EXPECT_EQ(existing.readAll(), QByteArray("mine"));
+    r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), out.file(QStringLiteral("none.mdb")), out.file(QStringLiteral("x.mdb"))});
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_FALSE(QFileInfo::exists(out.file(QStringLiteral("x.mdb"))));
+    EXPECT_EQ(QDir(out.path()).entryList(QDir::Files).size(), 4) << "no temporary file is left";
+}
+
+class Check : public ::testing::Test {
+protected:
+    AdminRun check(const QString& path) { return Admin({QStringLiteral("check"), QStringLiteral("--ledger"), path}); }
+    TempLedger ledger;
+};
+
+TEST_F(Check, AGoodLedgerIsOk)
+{
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code) VALUES (1, 0, 0)"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey) VALUES (1)"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (1, 'x')"));
+    const AdminRun r = check(ledger.path());
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_EQ(r.out, QStringList{QStringLiteral("ok: ") + ledger.path()});
+}
+
+TEST_F(Check, OrphanRowsAndUnknownCodesAreOneLineEachWithTheirCountAndFirstKeys)
+{
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code) VALUES (1, 7, 0)"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey) VALUES (1)"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey) VALUES (4)"));
+    for (int key : {9, 9, 12})
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Device_Management (\"Key\") VALUES (%1)").arg(key));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, Section_Code, Division_Code) VALUES (3, 0, 5)"));
+    const AdminRun r = check(ledger.path());
+    EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
+    EXPECT_EQ(r.out, (QStringList{
+                         QStringLiteral("tbl_Pclist: 1 rows without their tbl_Computer_List row (MainKey 4)"),
+                         QStringLiteral("tbl_Device_Management: 3 rows whose Key names no computer (Key 9, 12)"),
+                         QStringLiteral("tbl_Computer_List: 1 rows whose Location_Code names no row of tbl_Location (MainKey 1)"),
+                         QStringLiteral("tbl_User: 1 rows whose Division_Code names no row of tbl_Division (User_Code 3)"),
+                     }));
+}
+
+TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
+{
+    const int page = ledger.value(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = 'tbl_Pclist'")).toInt();
+    const int size = ledger.value(QStringLiteral("PRAGMA page_size")).toInt();
+    ledger.closeConnection();
+    QFile f(ledger.path());
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(f.seek(qint64(page - 1) * size));
+    f.write(QByteArray(16, '\xff'));
+    f.close();
+    AdminRun r = check(ledger.path());
+    EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
+    EXPECT_FALSE(r.out.filter(QStringLiteral("tbl_Pclist")).isEmpty() && r.out.filter(QStringLiteral("file:")).isEmpty())
+        << r.out.join(QLatin1Char('\n')).toStdString();
+
+    TempDir dir;
+    QFile text(dir.file(QStringLiteral("notes.txt")));
+    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
+    text.write(QByteArray("MainKey,Computer_Name\r\n1,PC-01\r\n").repeated(200));
+    text.close();
+    r = check(text.fileName());
+    EXPECT_EQ(r.exitCode, 1);
+    EXPECT_TRUE(r.out.isEmpty());
+    EXPECT_FALSE(r.err.isEmpty());
+    EXPECT_EQ(check(dir.file(QStringLiteral("missing.mdb"))).exitCode, 1);
+}
+
+} // namespace
