@@ -90,7 +90,7 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files)
     Db db;
     if (sqlite3_open_v2(QFile::encodeName(ledgerPath).constData(), &db.h, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
         return QStringLiteral("cannot open ") + ledgerPath;
-    sqlite3_exec(db.h, "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL", nullptr, nullptr, nullptr);
+    sqlite3_exec(db.h, "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL", nullptr, nullptr, nullptr);
 
     // the Pclist columns of the map, in walking order, and what goes to tbl_Computer_List
     std::vector<const InventoryFieldRow*> pclist;

@@ -61,7 +61,6 @@ QString freshLedger(const QTemporaryDir& dir, const QString& name)
 {
     const QString path = dir.filePath(name);
     QFile::remove(path);
-    QFile::remove(path + QStringLiteral("-wal"));
     QFile::remove(path + QStringLiteral("-shm"));
     const QString error = ledger::CreateLedger(path);
     if (!error.isEmpty()) {
