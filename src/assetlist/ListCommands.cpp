@@ -91,7 +91,7 @@ bool isValidPattern(const QString& pattern)
         vb::Like(QString(), pattern);
         return true;
     } catch (const vb::VbError& e) {
-        if (e.Number() != vb::VbError::InvalidPatternString().Number())
+        if (e.Number() != vb::Err::InvalidPatternString)
             throw;
         return false;
     }

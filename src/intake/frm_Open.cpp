@@ -34,8 +34,6 @@ namespace {
 constexpr int kWidth = 6165;
 constexpr int kHeight = 5430;
 
-constexpr long kDeviceUnavailable = 68;
-
 } // namespace
 
 frm_Open::frm_Open()
@@ -172,10 +170,10 @@ void frm_Open::Drive1_Change()
     try {
         // a disk unmounted since the list was made counts as a drive without a medium
         if (!Drive1->DriveReady())
-            throw vb::VbError(kDeviceUnavailable, QStringLiteral("デバイスが準備されていません。"));
+            throw vb::VbError::DeviceUnavailable();
         Dir1->SetPath(Drive1->Drive());
     } catch (const vb::VbError& e) {
-        if (e.Number() == kDeviceUnavailable) {
+        if (e.Number() == vb::Err::DeviceUnavailable) {
             ui::MsgBox(QStringLiteral("ディスクをセットしてください"));
             // The list goes back to the drive of the folder still shown, rather than naming a
             // drive that the folder list is not on.

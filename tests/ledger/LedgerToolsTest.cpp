@@ -42,11 +42,12 @@ int ExpectWholeLedger(const QString& path)
     EXPECT_EQ(value(QStringLiteral("SELECT count(*) FROM tbl_Pclist WHERE MainKey > 0 AND Computer_Name IS NOT 'PC-SOUMU-01'")),
               QStringLiteral("0"));
     const int computers = value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey > 0")).toInt();
-    if (computers > 0)
+    if (computers > 0) {
         EXPECT_EQ(value(QStringLiteral("SELECT group_concat(n) FROM (SELECT DISTINCT (SELECT count(*) FROM tbl_ApplicationsList a "
                                        "WHERE a.\"Key\" = c.MainKey) || '/' || (SELECT count(*) FROM tbl_Environmental e "
                                        "WHERE e.\"Key\" = c.MainKey) AS n FROM tbl_Computer_List c WHERE MainKey > 0)")),
                   QStringLiteral("5/3"));
+    }
     return computers;
 }
 

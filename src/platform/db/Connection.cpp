@@ -49,7 +49,7 @@ void Connection::run(const char* sql)
 void Connection::Open(const QString& connectionString)
 {
     if (m_db)
-        throw vb::VbError(3705, QStringLiteral("オブジェクトが開いている場合は、操作は許可されません。"));
+        throw EngineError::ObjectOpen();
     if (!connectionString.isEmpty())
         ConnectionString = connectionString;
     const QString path = DataSourceOf(ConnectionString);
@@ -233,7 +233,7 @@ Statement Connection::prepare(const JetStatement& st, bool withRowids)
             if (updatable) {
                 QString list;
                 for (const QString& t : tables)
-                    list += QStringLiteral(" \"%1\".rowid,").arg(t);
+                    list += QLatin1Char(' ') + QuoteName(t) + QStringLiteral(".rowid,");
                 injected = st.shape;
                 injected.insert(st.selectListAt, list);
             }
@@ -270,7 +270,7 @@ void Connection::CommitTrans()
     if (!m_db)
         throw EngineError::ConnectionClosed();
     if (m_level == 0)
-        throw vb::VbError(EngineError::Fail, QStringLiteral("アクティブなトランザクションがありません。"));
+        throw EngineError::NoTransaction();
     struct EndLevel {
         Connection& c;
         ~EndLevel()
@@ -292,7 +292,7 @@ void Connection::RollbackTrans()
     if (!m_db)
         throw EngineError::ConnectionClosed();
     if (m_level == 0)
-        throw vb::VbError(EngineError::Fail, QStringLiteral("アクティブなトランザクションがありません。"));
+        throw EngineError::NoTransaction();
     struct EndLevel {
         Connection& c;
         ~EndLevel()

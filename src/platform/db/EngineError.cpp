@@ -97,6 +97,10 @@ VbError NoCurrentRecord()
 
 VbError ObjectClosed() { return {3704, QStringLiteral("オブジェクトが閉じている場合は、操作は許可されません。")}; }
 
+VbError NoTransaction() { return {Fail, QStringLiteral("アクティブなトランザクションがありません。")}; }
+
+VbError ObjectOpen() { return {3705, QStringLiteral("オブジェクトが開いている場合は、操作は許可されません。")}; }
+
 VbError ConnectionClosed()
 {
     return {3709, QStringLiteral("接続は、この操作を実行するために使用できません。このコンテキストでは、閉じているか無効です。")};

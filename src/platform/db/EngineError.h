@@ -25,6 +25,8 @@ vb::VbError FromSqlite(sqlite3* db, int rc, const QString& path = QString());
 vb::VbError ItemNotFound();          // 3265: no field of that name or number
 vb::VbError NoCurrentRecord();       // 3021: BOF or EOF
 vb::VbError ObjectClosed();          // 3704
+vb::VbError ObjectOpen();            // 3705
+vb::VbError NoTransaction();         // a commit or rollback without BeginTrans
 vb::VbError ConnectionClosed();      // 3709
 vb::VbError NotSupported();          // 3251: read-only recordset
 vb::VbError NotUpdatableQuery();     // a DISTINCT or grouped query

@@ -463,4 +463,12 @@ JetStatement JetSql::Parse(QStringView jet) { return parse(jet, true); }
 
 JetStatement JetSql::ParseShape(QStringView jet) { return parse(jet, false); }
 
+QString QuoteName(QStringView name)
+{
+    QString out;
+    out.reserve(name.size() + 2);
+    appendQuotedName(out, name);
+    return out;
+}
+
 } // namespace db

@@ -43,4 +43,8 @@ public:
     static QString Rewrite(QStringView jet) { return Parse(jet).sql; }
 };
 
+// A table or column name as SQLite quotes it: in double quotes, a double quote inside doubled.
+// Every statement the layer writes itself quotes its names through here.
+QString QuoteName(QStringView name);
+
 } // namespace db

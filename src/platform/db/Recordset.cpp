@@ -30,13 +30,6 @@ QString dateText(const QDateTime& d)
     return d.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss"));
 }
 
-QString quoteName(const QString& n)
-{
-    QString q = n;
-    q.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return QLatin1Char('"') + q + QLatin1Char('"');
-}
-
 // The texts of one column of a snapshot, each converted once. Ledger columns repeat a handful of
 // values over many rows (an OS name, a workgroup, a subnet mask, a lease date), so a repeated
 // text costs a lookup and a shared copy instead of a conversion and an allocation. A column whose
@@ -195,7 +188,7 @@ Recordset::~Recordset() = default;
 void Recordset::Open(const QString& source, Connection& connection, CursorType, LockType lock, long)
 {
     if (m_open)
-        throw vb::VbError(3705, QStringLiteral("オブジェクトが開いている場合は、操作は許可されません。"));
+        throw EngineError::ObjectOpen();
     connection.requireOpen();
     const JetStatement st = connection.parse(source);
     const bool wantUpdates = lock != adLockReadOnly && lock != adLockUnspecified;
@@ -484,13 +477,13 @@ void Recordset::Update()
                     names += QLatin1String(", ");
                     marks += QLatin1String(", ");
                 }
-                names += quoteName(column(col).origin);
+                names += QuoteName(column(col).origin);
                 marks += QLatin1Char('?');
                 m_insertFields.push_back(col);
             }
             m_insertSql = names.isEmpty()
-                              ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(quoteName(table))
-                              : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(quoteName(table), names, marks);
+                              ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(QuoteName(table))
+                              : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(QuoteName(table), names, marks);
         }
         Statement s = m_conn->prepareSql(m_insertSql);
         int at = 1;
@@ -523,10 +516,10 @@ void Recordset::Update()
             for (int col : cols) {
                 if (!sets.isEmpty())
                     sets += QLatin1String(", ");
-                sets += quoteName(column(col).origin) + QLatin1String(" = ?");
+                sets += QuoteName(column(col).origin) + QLatin1String(" = ?");
             }
             const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
-                                    .arg(quoteName(cs.rowidTables[size_t(slot)]), sets);
+                                    .arg(QuoteName(cs.rowidTables[size_t(slot)]), sets);
             Statement s = m_conn->prepareSql(sql);
             int at = 1;
             for (int col : cols)
@@ -555,7 +548,7 @@ void Recordset::Delete()
     const ColumnSet& cs = *m_columns;
     Transaction tx(*m_conn);
     for (int slot = 0; slot < cs.rowidCount; ++slot) {
-        Statement s = m_conn->prepareSql(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(quoteName(cs.rowidTables[size_t(slot)])));
+        Statement s = m_conn->prepareSql(QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(QuoteName(cs.rowidTables[size_t(slot)])));
         sqlite3_bind_int64(s.handle(), 1, m_rowids[size_t(m_pos) * size_t(cs.rowidCount) + size_t(slot)]);
         s.runToEnd(*m_conn);
     }
@@ -578,12 +571,12 @@ void Recordset::refreshRow(long row)
                 continue;
             if (!names.isEmpty())
                 names += QLatin1String(", ");
-            names += quoteName(column(c).origin);
+            names += QuoteName(column(c).origin);
             cols.push_back(c);
         }
         if (cols.empty())
             continue;
-        Statement s = m_conn->prepareSql(QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(names, quoteName(cs.rowidTables[size_t(slot)])));
+        Statement s = m_conn->prepareSql(QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(names, QuoteName(cs.rowidTables[size_t(slot)])));
         sqlite3_bind_int64(s.handle(), 1, rowid);
         if (sqlite3_step(s.handle()) == SQLITE_ROW) {
             for (size_t k = 0; k < cols.size(); ++k)

@@ -31,11 +31,11 @@ void Dispatch(const std::function<void()>& handler)
     } catch (const vb::VbError& e) {
         fatal(e);
     } catch (const std::bad_alloc&) {
-        fatal(vb::VbError(7, QStringLiteral("メモリが不足しています。")));
+        fatal(vb::VbError::OutOfMemory());
     } catch (const std::exception& e) {
         // a failure outside the VB model (a bug of ours) ends the run the same way, as the
         // run time's internal error, rather than tearing through Qt's event delivery
-        fatal(vb::VbError(51, QStringLiteral("内部エラーです。") + vbCrLf + QString::fromLocal8Bit(e.what())));
+        fatal(vb::VbError::InternalError(QString::fromLocal8Bit(e.what())));
     }
 }
 

@@ -15,6 +15,10 @@ namespace ui {
 
 namespace {
 
+// The grid control's own errors for a row or column outside the grid.
+vb::VbError invalidRow() { return {30009, QStringLiteral("Row の値が無効です。")}; }
+vb::VbError invalidCol() { return {30010, QStringLiteral("Col の値が無効です。")}; }
+
 Qt::Alignment toQt(int a)
 {
     switch (a) {
@@ -287,22 +291,22 @@ void FlexGrid::SetFixedCols(int n)
 void FlexGrid::checkCell(int row, int col) const
 {
     if (row < 0 || row >= m_rows)
-        throw vb::VbError(30009, QStringLiteral("Row の値が無効です。"));
+        throw invalidRow();
     if (col < 0 || col >= m_cols)
-        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+        throw invalidCol();
 }
 
 void FlexGrid::SetRow(int row)
 {
     if (row < 0 || row >= m_rows)
-        throw vb::VbError(30009, QStringLiteral("Row の値が無効です。"));
+        throw invalidRow();
     m_row = row;
 }
 
 void FlexGrid::SetCol(int col)
 {
     if (col < 0 || col >= m_cols)
-        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+        throw invalidCol();
     m_col = col;
 }
 
@@ -355,7 +359,7 @@ int FlexGrid::CellAlignmentAt(int row, int col) const
 int FlexGrid::ColWidth(int col) const
 {
     if (col < 0 || col >= m_cols)
-        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+        throw invalidCol();
     const int w = m_widths[size_t(col)];
     return w < 0 ? kDefaultWidthTwips : w;
 }
@@ -363,7 +367,7 @@ int FlexGrid::ColWidth(int col) const
 void FlexGrid::SetColWidth(int col, int twips)
 {
     if (col < 0 || col >= m_cols)
-        throw vb::VbError(30010, QStringLiteral("Col の値が無効です。"));
+        throw invalidCol();
     m_widths[size_t(col)] = twips;
     if (!deferred() && !m_dirtyStructure)
         applyWidths();

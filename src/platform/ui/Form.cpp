@@ -56,7 +56,7 @@ void Form::Show(int modal)
     Load();
     if (modal == vbModal) {
         if (isVisible())
-            throw vb::VbError(400, QStringLiteral("フォームは既に表示されています。モーダル表示はできません。"));
+            throw vb::VbError::FormAlreadyShown();
         setWindowModality(Qt::ApplicationModal);
     } else if (!isVisible()) {
         setWindowModality(Qt::NonModal);

@@ -18,18 +18,24 @@ public:
     const char* what() const noexcept override { return m_what.constData(); }
 
     // The VB run-time errors that the system meets, with the texts of the Japanese run time.
-    static VbError InvalidProcedureCall();  //  5
-    static VbError Overflow();              //  6
-    static VbError SubscriptOutOfRange();   //  9
-    static VbError TypeMismatch();          // 13
-    static VbError BadFileNameOrNumber();   // 52
-    static VbError FileNotFound();          // 53
-    static VbError PermissionDenied();      // 70
-    static VbError PathFileAccessError();   // 75
-    static VbError PathNotFound();          // 76
-    static VbError InvalidPatternString();  // 93
-    static VbError InvalidUseOfNull();      // 94
-    static VbError CancelSelected();        // 32755, the common dialog's CancelError
+    // Every error the program raises comes from one of these (or from the database layer's
+    // EngineError); code that tells errors apart compares with the numbers in Err.
+    static VbError InvalidProcedureCall();
+    static VbError Overflow();
+    static VbError OutOfMemory();
+    static VbError SubscriptOutOfRange();
+    static VbError TypeMismatch();
+    static VbError InternalError(const QString& what);
+    static VbError BadFileNameOrNumber();
+    static VbError FileNotFound();
+    static VbError DeviceUnavailable();
+    static VbError PermissionDenied();
+    static VbError PathFileAccessError();
+    static VbError PathNotFound();
+    static VbError InvalidPatternString();
+    static VbError InvalidUseOfNull();
+    static VbError FormAlreadyShown();
+    static VbError CancelSelected();
 
 private:
     long m_number;
@@ -40,11 +46,20 @@ private:
 namespace Err {
 inline constexpr long InvalidProcedureCall = 5;
 inline constexpr long Overflow = 6;
+inline constexpr long OutOfMemory = 7;
 inline constexpr long SubscriptOutOfRange = 9;
 inline constexpr long TypeMismatch = 13;
+inline constexpr long InternalError = 51;
+inline constexpr long BadFileNameOrNumber = 52;
 inline constexpr long FileNotFound = 53;
+inline constexpr long DeviceUnavailable = 68;
+inline constexpr long PermissionDenied = 70;
+inline constexpr long PathFileAccessError = 75;
+inline constexpr long PathNotFound = 76;
+inline constexpr long InvalidPatternString = 93;
 inline constexpr long InvalidUseOfNull = 94;
-inline constexpr long CancelSelected = 32755;
+inline constexpr long FormAlreadyShown = 400;
+inline constexpr long CancelSelected = 32755;  // the common dialog's CancelError
 } // namespace Err
 
 } // namespace vb
