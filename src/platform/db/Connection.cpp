@@ -255,6 +255,18 @@ Statement Connection::prepare(const JetStatement& st, bool withRowids)
     return m_cache->acquire(*known, int(m_rowidTables.value(st.shape).size()), m_rowidTables.value(st.shape));
 }
 
+// Ends the innermost ADO level on leaving CommitTrans or RollbackTrans, whether its statement
+// succeeded or not: after a failed commit the level is gone with its transaction.
+struct Connection::LevelEnd {
+    Connection& c;
+    explicit LevelEnd(Connection& connection) : c(connection) {}
+    ~LevelEnd()
+    {
+        --c.m_level;
+        c.scopeEnded();
+    }
+};
+
 long Connection::BeginTrans()
 {
     requireOpen();
@@ -271,14 +283,7 @@ void Connection::CommitTrans()
         throw EngineError::ConnectionClosed();
     if (m_level == 0)
         throw EngineError::NoTransaction();
-    struct EndLevel {
-        Connection& c;
-        ~EndLevel()
-        {
-            --c.m_level;
-            c.scopeEnded();
-        }
-    } end{*this};
+    const LevelEnd end(*this);
     if (m_lost)
         throw *m_lost;
     if (m_level == 1 && m_savepoints == 0)
@@ -293,14 +298,7 @@ void Connection::RollbackTrans()
         throw EngineError::ConnectionClosed();
     if (m_level == 0)
         throw EngineError::NoTransaction();
-    struct EndLevel {
-        Connection& c;
-        ~EndLevel()
-        {
-            --c.m_level;
-            c.scopeEnded();
-        }
-    } end{*this};
+    const LevelEnd end(*this);
     if (m_lost)
         return;  // already rolled back
     if (m_level == 1 && m_savepoints == 0) {

@@ -80,6 +80,7 @@ public:
 
 private:
     friend class Transaction;
+    struct LevelEnd;
     void run(const char* sql);
     // Runs the outermost commit; on failure rolls everything back and throws.
     void commitOutermost(const char* sql);
