@@ -1,0 +1,222 @@
+// The code table editor and the user register, driven as a user drives them: clicks on the grid,
+// typed fields, the menu commands; the ledger rows and the grid checked after each.
+#include "masters/frm_Edit_Table.h"
+#include "masters/frm_Edit_User.h"
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_gData.h"
+#include "platform/app/App.h"
+#include "platform/ui/DropDownCombo.h"
+#include "platform/ui/FlexGrid.h"
+#include "platform/ui/Twips.h"
+
+#include "support/QtPrinters.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TempLedger.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class Masters : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Mdl_gData::Reset();
+        app::SetPath(ledger.folder());
+        app::SetEndHook([this](int status) { ended.push_back(status); });
+        ASSERT_TRUE(Mdl_Access_mdb::ConnectDatabase());
+    }
+    void TearDown() override
+    {
+        for (ui::Form* f : ui::Forms())
+            f->Unload();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        Mdl_Access_mdb::DisconnectDatabase();
+        app::SetEndHook({});
+        Mdl_gData::Reset();
+        app::SetPath(QString());
+        EXPECT_TRUE(ended.empty()) << "the program ended";
+    }
+    frm_Edit_Table& openTable(const QString& table, const QString& caption)
+    {
+        Mdl_gData::CurrentTableName = table;
+        Mdl_gData::CurrentTableCaption = caption;
+        frm_Edit_Table::OpenModal();
+        return frm_Edit_Table::Instance();
+    }
+    static void click(ui::FlexGrid& g, int row)
+    {
+        g.scrollTo(g.model()->index(row, 1));
+        QTest::mouseClick(g.viewport(), Qt::LeftButton, {}, g.CellRect(row, 1).center());
+    }
+    static QStringList cells(const ui::FlexGrid& g, int firstCol = 0)
+    {
+        QStringList out;
+        for (int r = 1; r < g.Rows(); ++r) {
+            QStringList row;
+            for (int c = firstCol; c < g.Cols(); ++c)
+                row << g.TextMatrix(r, c);
+            out << row.join(QLatin1Char('|'));
+        }
+        return out;
+    }
+
+    TempLedger ledger;
+    ScriptedDialogs dialogs;
+    std::vector<int> ended;
+};
+
+// Each of the five tables through add, update, clear and soft delete: the editor knows them only
+// by their field names.
+TEST_F(Masters, TheCodeTableEditorAddsUpdatesAndSoftDeletesInEachOfTheFiveTables)
+{
+    const std::vector<std::pair<QString, QString>> tables = {{"tbl_Section", "部"},
+                                                             {"tbl_Division", "課"},
+                                                             {"tbl_Location", "設置場所"},
+                                                             {"tbl_Manufacturer", "メーカー"},
+                                                             {"tbl_Model", "型番"}};
+    for (const auto& [table, caption] : tables) {
+        SCOPED_TRACE(table.toStdString());
+        frm_Edit_Table& w = openTable(table, caption);
+        EXPECT_EQ(w.windowTitle(), QStringLiteral("編集:( ") + caption + QStringLiteral(" )"));
+        EXPECT_EQ(w.MSFlexGrid_Edit->Rows(), 1) << "row 0 is never shown";
+        EXPECT_FALSE(w.Mnu_Update->isEnabled());
+        EXPECT_FALSE(w.Mnu_Delete->isEnabled());
+
+        // two adds: consecutive codes, only the code and the flag
+        w.Mnu_Add->trigger();
+        w.Mnu_Add->trigger();
+        EXPECT_EQ(cells(*w.MSFlexGrid_Edit), (QStringList{"1|||0", "2|||0"}));
+
+        click(*w.MSFlexGrid_Edit, 2);
+        EXPECT_EQ(w.tbxEdit[0]->text(), QStringLiteral("2"));
+        EXPECT_EQ(w.MSFlexGrid_Edit->CellBackColorAt(2, 1), ui::QBColor(8));
+        w.tbxEdit[1]->setText(QStringLiteral("本社"));
+        w.tbxEdit[2]->setText(QStringLiteral("東京"));
+        w.Mnu_Update->trigger();
+        EXPECT_FALSE(w.Mnu_Update->isEnabled());
+        EXPECT_EQ(ledger.rows(QStringLiteral("SELECT * FROM %1 WHERE rowid > 1 ORDER BY 1").arg(table)),
+                  (QStringList{"1|NULL|NULL|0", "2|本社|東京|0"}));
+
+        // a cleared comment is stored as an empty text
+        click(*w.MSFlexGrid_Edit, 2);
+        w.tbxEdit[2]->clear();
+        w.Mnu_Update->trigger();
+        EXPECT_EQ(ledger.value(QStringLiteral("SELECT quote(%1) FROM %2 WHERE rowid = 3").arg(
+                      ledger.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table)).value(2), table)),
+                  QStringLiteral("''"));
+
+        // No keeps the row; Yes flags it and it leaves the window
+        click(*w.MSFlexGrid_Edit, 1);
+        dialogs.answerMessage(ui::vbNo);
+        w.Mnu_Delete->trigger();
+        dialogs.answerMessage(ui::vbYes);
+        w.Mnu_Delete->trigger();
+        EXPECT_EQ(cells(*w.MSFlexGrid_Edit), QStringList{"2|本社||0"});
+        EXPECT_EQ(ledger.rows(QStringLiteral("SELECT * FROM %1 WHERE rowid > 1 ORDER BY 1").arg(table)),
+                  (QStringList{"1|NULL|NULL|1", "2|本社||0"}));
+        ASSERT_EQ(dialogs.messages().size(), 2u);
+        EXPECT_EQ(dialogs.messages()[0].prompt, QStringLiteral("削除しますか？"));
+        EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("確認"));
+        EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbQuestion + ui::vbYesNo);
+        dialogs.clear();
+
+        w.Mue_Close->trigger();
+        EXPECT_TRUE(Mdl_gData::CurrentTableName.isEmpty());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(Masters, TheFirstAddOnAnEmptyTableWritesTheReservedCodeZeroAndShowsNothing)
+{
+    ledger.exec(QStringLiteral("DELETE FROM tbl_Model"));
+    frm_Edit_Table& w = openTable(QStringLiteral("tbl_Model"), QStringLiteral("型番"));
+    w.Mnu_Add->trigger();
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Model_Code, Available_flug FROM tbl_Model")), QStringList{"0|0"});
+    EXPECT_EQ(w.MSFlexGrid_Edit->Rows(), 1);
+    w.Mnu_Add->trigger();
+    EXPECT_EQ(cells(*w.MSFlexGrid_Edit), QStringList{"1|||0"});
+}
+
+TEST_F(Masters, TheUserRegisterAddsWithTheReservedSectionAndStoresABlankForAnEmptyField)
+{
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0'), (2, '営業部', '', '0')"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Division VALUES (1, '庶務課', '', '0')"));
+    frm_Edit_User& w = frm_Edit_User::Instance();
+    w.Show(ui::vbModal);
+    EXPECT_EQ(cells(*w.MSFlexGrid_Edit), QStringList{"0|0||||||||"}) << "user 0 is listed like any other";
+    EXPECT_FALSE(w.Mnu_Add->isEnabled());
+
+    // an update with no row chosen does nothing
+    w.Mnu_Update_Click();
+    w.Mnu_Add_Click();
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT User_Code, Available_flug, Section_Code, Division_Code FROM tbl_User")),
+              (QStringList{"0|0|0|0", "1|0|0|0"}));
+
+    click(*w.MSFlexGrid_Edit, 2);
+    EXPECT_EQ(w.lbr_Key->text(), QStringLiteral("1"));
+    // the section list carries a blank behind each name, the division list does not
+    w.cmb_Section->showPopup();
+    w.cmb_Section->hidePopup();
+    EXPECT_EQ(w.cmb_Section->itemText(2), QStringLiteral("営業部 "));
+    w.cmb_Section->setCurrentIndex(2);
+    w.cmb_Section_Click();
+    w.cmb_Division->showPopup();
+    w.cmb_Division->hidePopup();
+    EXPECT_EQ(w.cmb_Division->itemText(1), QStringLiteral("庶務課"));
+    w.cmb_Division->setCurrentIndex(1);
+    w.cmb_Division_Click();
+    EXPECT_EQ(w.tbx_Section_Code->text(), QStringLiteral("2"));
+    w.tbxEdit[3]->setText(QStringLiteral("山田 太郎"));
+    w.tbxEdit[8]->setText(QStringLiteral("pass'word"));
+    w.Mnu_Update->trigger();
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT User_Name, kana, User_Comment, logon_Password, Section_Code, Division_Code "
+                                         "FROM tbl_User WHERE User_Code = 1")),
+              QStringList{"山田 太郎| | |pass'word|2|1"});
+    EXPECT_EQ(w.lbr_Key->text(), QStringLiteral(" "));
+    EXPECT_EQ(Mdl_Access_mdb::OpenRecordsetFirstRow(QStringLiteral("SELECT kana FROM tbl_User WHERE User_Code = 1"))[0],
+              QStringLiteral(" "));
+}
+
+TEST_F(Masters, ARemovedSectionLeavesItsUsersListedGrayAndADeletedUserLeaves)
+{
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0')"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
+                               "VALUES (1, '山田', '0', 1, 0), (2, '佐藤', '0', 1, 0), (3, '鈴木', '0', 9, 0)"));
+    Mdl_gData::MainFormWidth = 12000;
+    Mdl_gData::MainFormHeight = 9000;
+    frm_Edit_User& w = frm_Edit_User::Instance();
+    w.Show(ui::vbModal);
+    EXPECT_EQ(cells(*w.MSFlexGrid_Edit, 1), (QStringList{"0||||||||", "1|総務部||山田|||||", "2|総務部||佐藤|||||"}))
+        << "a user whose section has no row is not listed";
+
+    // the section editor opened from the register
+    w.Mnu_Section->trigger();
+    frm_Edit_Table& sections = frm_Edit_Table::Instance();
+    EXPECT_EQ(sections.windowTitle(), QStringLiteral("編集:( 部 )"));
+    click(*sections.MSFlexGrid_Edit, 1);
+    dialogs.answerMessage(ui::vbYes);
+    sections.Mnu_Delete->trigger();
+    sections.Mue_Close->trigger();
+
+    w.Mnu_Delete_Click();  // nothing chosen: the list is filled again, nothing written
+    EXPECT_EQ(w.MSFlexGrid_Edit->Rows(), 4);
+    EXPECT_EQ(w.MSFlexGrid_Edit->CellBackColorAt(2, 2), ui::QBColor(8));
+    EXPECT_NE(w.MSFlexGrid_Edit->CellBackColorAt(2, 4), ui::QBColor(8));
+
+    click(*w.MSFlexGrid_Edit, 3);
+    dialogs.answerMessage(ui::vbYes);
+    w.Mnu_delete->trigger();
+    EXPECT_EQ(cells(*w.MSFlexGrid_Edit, 1), (QStringList{"0||||||||", "1|総務部||山田|||||"}));
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Available_flug FROM tbl_User WHERE User_Code = 2")), QStringLiteral("1"));
+    EXPECT_TRUE(w.Mnu_Add->isEnabled());
+}
+
+} // namespace
