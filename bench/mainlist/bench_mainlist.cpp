@@ -14,6 +14,7 @@
 #include "foundation/mdl_ini.h"
 #include "ledger/LedgerFile.h"
 #include "platform/app/App.h"
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/FlexGrid.h"
 
@@ -131,7 +132,7 @@ int bench(int computers, int runs)
     for (int r = 0; r < runs; ++r) {
         db::Recordset rs;
         t.restart();
-        rs.Open(Mdl_gData::ListSql, Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
+        rs.Open(Mdl_gData::g.ListSql, Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
         opens.push_back(ms(t));
         rs.Close();
     }
@@ -147,7 +148,7 @@ int bench(int computers, int runs)
         const int before = grid.PaintCount();
         const double cpuStart = cpuMs();
         t.restart();
-        if (!list.fnc_View_PClist()) {
+        if (list.fnc_View_PClist() != ui::FillResult::Rows) {
             std::fprintf(stderr, "the fill failed\n");
             return 1;
         }

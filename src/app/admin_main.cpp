@@ -1,6 +1,6 @@
 // fenwold-admin: the companion program for scripts and administrators. It works on a ledger
-// without a window: makes an empty ledger, reads inventory files, writes the main list to a file,
-// backs the ledger up and checks it.
+// without a window: makes an empty ledger, reads inventory files, writes the lists of the windows
+// to files, backs the ledger up and checks it.
 #include "assetlist/ExportListCommand.h"
 #include "intake/ReadCommand.h"
 #include "ledger/LedgerCommands.h"
@@ -17,27 +17,36 @@
 
 namespace {
 
+// The lists of `export LIST`, each written by its window's own routines.
+std::vector<AdminExport::List> exportLists() { return {MainListExport()}; }
+
 void printUsage(std::FILE* to)
 {
-    std::fputs("usage: fenwold-admin <command> [arguments]\n"
-               "\n"
-               "commands:\n"
-               "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
-               "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
-               "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   write the main list to OUT as CSV\n"
-               "  backup [--ledger PATH] OUT   copy a ledger, in use or not, to the new file OUT\n"
-               "  check [--ledger PATH]   check the file and the ledger's consistency\n",
-               to);
+    QByteArray lists;
+    for (const AdminExport::List& list : exportLists())
+        lists += QByteArray(lists.isEmpty() ? "" : ", ") + list.name;
+    std::fprintf(to,
+                 "usage: fenwold-admin <command> [arguments]\n"
+                 "\n"
+                 "commands:\n"
+                 "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
+                 "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
+                 "  export LIST [--ledger PATH] [--ini PATH] [options] OUT   write a window's list to OUT as the window exports it\n"
+                 "      LIST: %s\n"
+                 "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   the same as export main\n"
+                 "  backup [--ledger PATH] OUT   copy a ledger, in use or not, to the new file OUT\n"
+                 "  check [--ledger PATH]   check the file and the ledger's consistency\n",
+                 lists.constData());
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    // The list export fills the main list's grid, a widget, so that command runs under the widget
-    // application on the offscreen platform: it needs no display and shows nothing. The others
+    // The exports fill the windows' grids, widgets, so those commands run under the widget
+    // application on the offscreen platform: they need no display and show nothing. The others
     // need no more than the core application.
-    const bool widgets = argc > 1 && std::strcmp(argv[1], "export-list") == 0;
+    const bool widgets = argc > 1 && (std::strcmp(argv[1], "export") == 0 || std::strcmp(argv[1], "export-list") == 0);
     if (widgets)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::unique_ptr<QCoreApplication> application =
@@ -54,7 +63,8 @@ int main(int argc, char** argv)
     const std::pair<const char*, std::function<int(const QStringList&)>> commands[] = {
         {"new-ledger", ledger::NewLedgerCommand},
         {"read", ReadCommand},
-        {"export-list", ExportListCommand},
+        {"export", [](const QStringList& a) { return AdminExport::ExportCommand(exportLists(), a); }},
+        {"export-list", [](const QStringList& a) { return AdminExport::Run("export-list", MainListExport(), a); }},
         {"backup", ledger::BackupCommand},
         {"check", ledger::CheckCommand},
     };

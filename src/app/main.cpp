@@ -3,7 +3,6 @@
 // the program ends when the main window is unloaded.
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/Fonts.h"
-#include "shell/ShellWindows.h"
 #include "shell/frm_Main.h"
 
 #include <QApplication>
@@ -20,7 +19,7 @@ int main(int argc, char** argv)
 
     // The start is the first event: a failure that the load does not handle is the fatal report.
     ui::Dispatch([&application] {
-        frm_Main& main = ShellWindows::Main();
+        frm_Main& main = frm_Main::Instance();
         // Mnu_Program_Quit leaves the windows opened from the menus loaded (its closing question
         // finds the connection already closed); they end here with the program.
         QObject::connect(&main, &ui::Form::Unloaded, &application, &QCoreApplication::quit, Qt::QueuedConnection);

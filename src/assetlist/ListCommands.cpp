@@ -4,6 +4,7 @@
 #include "assetlist/MainList.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/FlexGrid.h"
@@ -189,23 +190,23 @@ void Mnu_Search(MainList& list)
 
     // The word stands at the start of the cell: only a star follows it.
     const QString pattern = word + u'*';
-    ui::FlexGrid& g = list.MSFlexGrid_Main;
+    ui::FlexGrid& grid = list.MSFlexGrid_Main;
     const QColor yellow(255, 255, 0);
     bool found = false;
-    g.SetVisible(false);
+    grid.SetVisible(false);
     if (isValidPattern(pattern)) {
-        for (int row = 1; row < g.Rows(); ++row) {
-            for (int col = 1; col < g.Cols(); ++col) {
-                if (!vb::Like(g.TextMatrix(row, col), pattern))
+        for (int row = 1; row < grid.Rows(); ++row) {
+            for (int col = 1; col < grid.Cols(); ++col) {
+                if (!vb::Like(grid.TextMatrix(row, col), pattern))
                     continue;
-                g.SetRow(row);
-                g.SetCol(col);
-                g.SetCellBackColor(yellow);
+                grid.SetRow(row);
+                grid.SetCol(col);
+                grid.SetCellBackColor(yellow);
                 found = true;
             }
         }
     }
-    g.SetVisible(true);
+    grid.SetVisible(true);
     if (!found)
         ui::MsgBox(QStringLiteral("見つかりませんでした"));
 }

@@ -1,6 +1,8 @@
 #include "assetlist/ListQuery.h"
 
 #include "foundation/Mdl_gData.h"
+#include "foundation/mdl_ini.h"
+#include "platform/vb/Conversion.h"
 
 using namespace Mdl_gData;
 
@@ -57,24 +59,36 @@ void gSetSQLVal()
     s += QStringLiteral(") ");
 
     // installed or retired computers; any other value lists both
-    if (OptDel == 0)
+    if (g.OptDel == 0)
         s += QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 0) ");
-    else if (OptDel == 1)
+    else if (g.OptDel == 1)
         s += QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 1) ");
 
-    if (SelectNumber >= 1 && SelectNumber <= 3) {
+    if (g.SelectNumber >= 1 && g.SelectNumber <= 3) {
         s += QStringLiteral(" ORDER BY ");
-        for (int i = 0; i < SelectNumber; ++i) {
+        for (int i = 0; i < g.SelectNumber; ++i) {
             if (i > 0)
                 s += QStringLiteral(",");
-            s += SortKeyName[i];
+            s += g.SortKeyName[i];
             s += QStringLiteral(" ");
-            s += SortKeyDirection[i];
+            s += g.SortKeyDirection[i];
         }
     }
     // A count of sort keys outside 0 to 3 leaves the statement without its closing ";".
-    if (SelectNumber >= 0 && SelectNumber <= 3)
+    if (g.SelectNumber >= 0 && g.SelectNumber <= 3)
         s += QStringLiteral(";");
 
-    ListSql = s;
+    g.ListSql = s;
+}
+
+std::int16_t SavedSectionNumber()
+{
+    const QString section = mdl_ini::IniRead(QStringLiteral("Main"), QStringLiteral("SectionNumber"));
+    return section.isEmpty() ? std::int16_t(0) : vb::CInt(section);
+}
+
+void LoadView()
+{
+    mdl_ini::LoadViewSettings();
+    gSetSQLVal();
 }

@@ -1,7 +1,9 @@
 #include "assetlist/MainList.h"
 
+#include "assetlist/ListQuery.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/Twips.h"
@@ -14,8 +16,6 @@
 using namespace Mdl_gData;
 
 namespace {
-
-MainList* g_instance = nullptr;
 
 // The palette colours of the list: gray for headings, row numbers, the selection and a retired
 // master entry; white for data cells.
@@ -220,41 +220,35 @@ void renderFlag(ui::FlexGrid& grid, const vb::Variant& v, const QString& on)
 
 } // namespace
 
-MainList::MainList(ui::FlexGrid& grid) : MSFlexGrid_Main(grid) { g_instance = this; }
+MainList::MainList(ui::FlexGrid& grid) : MSFlexGrid_Main(grid) {}
 
-MainList::~MainList()
-{
-    if (g_instance == this)
-        g_instance = nullptr;
-}
-
-MainList* MainList::Instance() { return g_instance; }
+MainList::~MainList() = default;
 
 void MainList::FGridViewSelect_ini()
 {
     for (long i = 0; i < long(std::size(kColumns)); ++i)
-        ColumnTable[i] = {text16(kColumns[i].field), text16(kColumns[i].caption)};
-    ColumnCount = 76;
+        g.ColumnTable[i] = {text16(kColumns[i].field), text16(kColumns[i].caption)};
+    g.ColumnCount = 76;
 }
 
-bool MainList::fnc_View_PClist()
+ui::FillResult MainList::fnc_View_PClist()
 {
-    ui::FlexGrid& g = MSFlexGrid_Main;
-    bool result = false;
+    ui::FlexGrid& grid = MSFlexGrid_Main;
+    ui::FillResult result = ui::FillResult::Failed;
     db::Recordset rs;
     try {
-        rs.Open(ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
+        rs.Open(g.ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
         if (rs.RecordCount() < 1) {
-            g.SetCols(0);
-            g.SetRows(0);
+            grid.SetCols(0);
+            grid.SetRows(0);
             rs.Close();
-            return false;
+            return ui::FillResult::NoRows;
         }
 
         // hidden for the time of the fill, so that the grid is drawn once (hidden before the
         // clear, which then costs no repaint of its own)
-        g.SetVisible(false);
-        g.Clear();
+        grid.SetVisible(false);
+        grid.Clear();
 
         const QColor gray = ui::QBColor(kGray);
         const QColor white = ui::QBColor(kWhite);
@@ -263,18 +257,18 @@ bool MainList::fnc_View_PClist()
         const QString gigabytes = QStringLiteral("GB");
         const QString megabytes = QStringLiteral("MB");
 
-        g.SetCols(SelectedColumnCount + 2);
+        grid.SetCols(g.SelectedColumnCount + 2);
         std::vector<ShownColumn> shown;
-        for (int k = 0; k <= SelectedColumnCount; ++k) {
-            g.SetRows(2);
-            g.SetRow(0);
-            g.SetCol(k + 1);
-            g.SetColWidth(k + 1, 1500);
-            g.SetCellBackColor(gray);
-            g.SetCellAlignment(ui::flexAlignCenterBottom);
-            const ColumnDescriptor& d = ColumnTable[SelectedColumns[k]];
+        for (int k = 0; k <= g.SelectedColumnCount; ++k) {
+            grid.SetRows(2);
+            grid.SetRow(0);
+            grid.SetCol(k + 1);
+            grid.SetColWidth(k + 1, 1500);
+            grid.SetCellBackColor(gray);
+            grid.SetCellAlignment(ui::flexAlignCenterBottom);
+            const ColumnDescriptor& d = g.ColumnTable[g.SelectedColumns[k]];
             if (!d.caption.isEmpty())
-                g.SetText(d.caption);
+                grid.SetText(d.caption);
             shown.push_back(shownColumn(rs, d.field));
         }
 
@@ -287,17 +281,17 @@ bool MainList::fnc_View_PClist()
                 rs.MoveNext();
                 continue;
             }
-            g.SetRows(counter + 1);
-            g.SetRow(counter);
-            g.SetCol(0);
-            g.SetText(QString::number(counter));
-            g.SetCellBackColor(gray);
+            grid.SetRows(counter + 1);
+            grid.SetRow(counter);
+            grid.SetCol(0);
+            grid.SetText(QString::number(counter));
+            grid.SetCellBackColor(gray);
 
-            for (int k = 0; k <= SelectedColumnCount; ++k) {
-                g.SetRows(counter + 1);
-                g.SetCol(k + 1);
-                g.SetCellBackColor(white);
-                g.SetCellAlignment(ui::flexAlignLeftBottom);
+            for (int k = 0; k <= g.SelectedColumnCount; ++k) {
+                grid.SetRows(counter + 1);
+                grid.SetCol(k + 1);
+                grid.SetCellBackColor(white);
+                grid.SetCellAlignment(ui::flexAlignLeftBottom);
                 const ShownColumn& c = shown[size_t(k)];
                 // Null and the empty text count as empty; a number, 0 included, does not
                 const vb::Variant& v = c.value.read(rs);
@@ -306,35 +300,35 @@ bool MainList::fnc_View_PClist()
                 const QString text = vb::CStr(v);
                 if (text.isEmpty())
                     continue;
-                g.SetText(text);
+                grid.SetText(text);
                 switch (c.rendering) {
                 case Rendering::Text: break;
                 case Rendering::Master:
                     if (isOne(c.flag->read(rs)))
-                        g.SetCellBackColor(gray);
+                        grid.SetCellBackColor(gray);
                     break;
-                case Rendering::Gigabytes: renderCapacity(g, v, 1000000.0, gigabytes); break;
-                case Rendering::Megabytes: renderCapacity(g, v, 1000.0, megabytes); break;
-                case Rendering::Equipped: renderFlag(g, v, equipped); break;
-                case Rendering::Enabled: renderFlag(g, v, enabled); break;
+                case Rendering::Gigabytes: renderCapacity(grid, v, 1000000.0, gigabytes); break;
+                case Rendering::Megabytes: renderCapacity(grid, v, 1000.0, megabytes); break;
+                case Rendering::Equipped: renderFlag(grid, v, equipped); break;
+                case Rendering::Enabled: renderFlag(grid, v, enabled); break;
                 }
             }
 
-            g.SetCol(1);
-            if (!g.Text().isEmpty())
-                ListRowKeys[counter] = vb::CInt(vb::Variant(g.Text()));   // error 9 past row 2560
+            grid.SetCol(1);
+            if (!grid.Text().isEmpty())
+                g.ListRowKeys[counter] = vb::CInt(vb::Variant(grid.Text()));   // error 9 past row 2560
             ++counter;
             rs.MoveNext();
         }
-        ListRowCount = std::int16_t(counter - 1);
+        g.ListRowCount = std::int16_t(counter - 1);
 
-        g.SetColWidth(0, 500);
-        g.SetColWidth(1, 0);
-        g.SetVisible(true);
-        result = true;
+        grid.SetColWidth(0, 500);
+        grid.SetColWidth(1, 0);
+        grid.SetVisible(true);
+        result = ui::FillResult::Rows;
         ListReady = true;
 
-        if (g.Rows() > 1) {
+        if (grid.Rows() > 1) {
             PreviousRow = 1;
             CurrentRow = 1;
             PaintGridRow(CurrentRow, kGray);
@@ -344,9 +338,16 @@ bool MainList::fnc_View_PClist()
         // the grid stays hidden with what was filled, until the next full fill
         Mdl_Access_mdb::StandardErrorBox(e);
         rs.CloseIfOpen();
-        return false;
+        return ui::FillResult::Failed;
     }
     return result;
+}
+
+ui::FillResult MainList::ShowView()
+{
+    FGridViewSelect_ini();
+    LoadView();
+    return fnc_View_PClist();
 }
 
 void MainList::MSFlexGrid_Main_ini()
@@ -363,27 +364,27 @@ void MainList::PaintGridRow(std::int16_t row, std::int16_t qbColour)
 {
     if (row < 1)
         return;
-    ui::FlexGrid& g = MSFlexGrid_Main;
+    ui::FlexGrid& grid = MSFlexGrid_Main;
     const QColor colour = ui::QBColor(qbColour);
-    g.SetVisible(false);
-    for (int c = 1; c < g.Cols(); ++c) {
-        g.SetRow(row);
-        g.SetCol(c);
-        g.SetCellBackColor(colour);
+    grid.SetVisible(false);
+    for (int c = 1; c < grid.Cols(); ++c) {
+        grid.SetRow(row);
+        grid.SetCol(c);
+        grid.SetCellBackColor(colour);
     }
-    g.SetVisible(true);
+    grid.SetVisible(true);
 }
 
 void MainList::MSFlexGrid_Main_Click()
 {
-    ui::FlexGrid& g = MSFlexGrid_Main;
-    if (!ListReady || g.Row() == 0)
+    ui::FlexGrid& grid = MSFlexGrid_Main;
+    if (!ListReady || grid.Row() == 0)
         return;
-    g.SetCol(1);
-    if (g.Text().isEmpty())
+    grid.SetCol(1);
+    if (grid.Text().isEmpty())
         return;
-    CurrentMainKey = vb::CInt(vb::Variant(g.Text()));
-    CurrentRow = std::int16_t(g.Row());
+    CurrentMainKey = vb::CInt(vb::Variant(grid.Text()));
+    CurrentRow = std::int16_t(grid.Row());
     if (SetMenuEnabled) {
         for (MenuItem item : {Mnu_Edit_profile, Mnu_Delete, Mnu_ReplacePC, Mnu_View_Select})
             SetMenuEnabled(item, true);

@@ -1,18 +1,16 @@
 #pragma once
 
+#include "platform/ui/FlexGrid.h"
+
 #include <QString>
 
 #include <cstdint>
 #include <functional>
 
-namespace ui {
-class FlexGrid;
-}
-
 // The list routines of the main window over its grid MSFlexGrid_Main: the column model, the fill
 // from ListSql, the selection painting and the click. frm_Main owns one MainList over its grid;
-// the windows that refresh the main list (the view settings, the inventory read) reach it through
-// MainList::Instance().
+// the windows that refill the main list (the view settings, the inventory read) reach it through
+// the RefillMainList hook of Mdl_gData.
 class MainList {
 public:
     // The three menu items whose enabled state the list changes, and the view-settings item
@@ -23,9 +21,6 @@ public:
     ~MainList();
     MainList(const MainList&) = delete;
     MainList& operator=(const MainList&) = delete;
-
-    // The list of the main window, or nullptr before it exists.
-    static MainList* Instance();
 
     ui::FlexGrid& MSFlexGrid_Main;
 
@@ -40,8 +35,13 @@ public:
 
     // Fills ColumnTable with the 76 columns a view can show and sets ColumnCount.
     void FGridViewSelect_ini();
-    // Fills the grid from ListSql; true when at least one record was read.
-    bool fnc_View_PClist();
+    // Fills the grid from ListSql. The system's routine answers True when at least one record
+    // was read; NoRows leaves the grid without rows or columns, Failed has shown the error box
+    // and leaves the grid hidden.
+    ui::FillResult fnc_View_PClist();
+    // The list of the view numbered SectionNumber as the main window's load shows it: the column
+    // model, the view's settings and ListSql, then the fill.
+    ui::FillResult ShowView();
     // Leaves the refreshed list without a selection.
     void MSFlexGrid_Main_ini();
     // Paints the cells of a row from column 1 on; a row below 1 does nothing.

@@ -1,7 +1,6 @@
 #include "assetlist/frm_SelectView.h"
 
 #include "assetlist/ListQuery.h"
-#include "assetlist/MainList.h"
 #include "foundation/Mdl_gData.h"
 #include "foundation/mdl_ini.h"
 #include "platform/ui/Dialogs.h"
@@ -36,8 +35,6 @@ constexpr int kHeight = 6045;
 
 // the columns a view can choose from: rows 1 to 76 of ColumnTable
 constexpr int kColumns = 76;
-
-QString padded(const char* caption, int blanks) { return ui::PaddedCaption(QString::fromUtf8(caption), blanks); }
 
 // A sort key combo. Its list is filled only when the user opens it (DropDown), so while the user
 // has not picked in it its index is -1 and it shows the stored key's caption, as the text part
@@ -74,37 +71,29 @@ frm_SelectView::frm_SelectView()
 void frm_SelectView::buildMenus()
 {
     MenuBar = ui::AddMenuBar(this);
-    auto menu = [this](const char* name, const QString& caption) { return ui::AddMenu(MenuBar, name, caption); };
-    const auto item = [](QMenu* m, const char* name, const QString& caption) { return ui::AddMenuItem(m, name, caption); };
-    const auto separator = ui::AddMenuSeparator;
+    using ui::AddMenuItem;
+    using ui::PaddedCaption;
 
     // the top-level captions are widened with ideographic blanks, as in the main window
-    Mnu_File = menu("Mnu_File", padded("ファイル", 7));
-    Mnu_Close = item(Mnu_File, "Mnu_Close", padded("閉じる", 4));
-    Mnu_Close->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_W));
+    Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", PaddedCaption("ファイル", 7));
+    Mnu_Close = AddMenuItem(Mnu_File, "Mnu_Close", PaddedCaption("閉じる", 4), [this] { Mnu_Close_Click(); },
+                            QKeySequence(Qt::CTRL | Qt::Key_W));
 
-    Mnu_Edit = menu("Mnu_Edit", padded("編集", 8));
-    Mnu_SelectAll = item(Mnu_Edit, "Mnu_SelectAll", QStringLiteral("リスト全選択"));
-    Mnu_deSelect_All = item(Mnu_Edit, "Mnu_deSelect_All", QStringLiteral("リスト全解除"));
-    separator(Mnu_Edit, "sepalate02");
-    Mnu_Update = item(Mnu_Edit, "Mnu_Update", QStringLiteral("条件を適用"));
+    Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", PaddedCaption("編集", 8));
+    Mnu_SelectAll = AddMenuItem(Mnu_Edit, "Mnu_SelectAll", "リスト全選択", [this] { Mnu_SelectAll_Click(); });
+    Mnu_deSelect_All = AddMenuItem(Mnu_Edit, "Mnu_deSelect_All", "リスト全解除", [this] { Mnu_deSelect_All_Click(); });
+    ui::AddMenuSeparator(Mnu_Edit, "sepalate02");
+    Mnu_Update = AddMenuItem(Mnu_Edit, "Mnu_Update", "条件を適用", [this] { Mnu_Update_Click(); });
 
-    Mnu_View = menu("Mnu_View", padded("表示", 9));
-    Mnu_SetNameStr = item(Mnu_View, "Mnu_SetNameStr", QStringLiteral("名称を変更"));
-    separator(Mnu_View, "sepalate03");
+    Mnu_View = ui::AddMenu(MenuBar, "Mnu_View", PaddedCaption("表示", 9));
+    Mnu_SetNameStr = AddMenuItem(Mnu_View, "Mnu_SetNameStr", "名称を変更", [this] { Mnu_SetNameStr_Click(); });
+    ui::AddMenuSeparator(Mnu_View, "sepalate03");
     for (int i = 0; i <= 7; ++i) {
-        QAction* a = item(Mnu_View, "Mnu_ViewSelect", QString::number(i) + QStringLiteral(":"));
-        a->setObjectName(QStringLiteral("Mnu_ViewSelect_%1").arg(i));
+        QAction* a = AddMenuItem(Mnu_View, "", QString::number(i) + u':', [this, i] { Mnu_ViewSelect_Click(i); });
+        ui::SetArrayName(a, "Mnu_ViewSelect", i);
         a->setCheckable(true);
         Mnu_ViewSelect[size_t(i)] = a;
-        ui::Connect(a, &QAction::triggered, this, [this, i] { Mnu_ViewSelect_Click(i); });
     }
-
-    ui::Connect(Mnu_Close, &QAction::triggered, this, [this] { Mnu_Close_Click(); });
-    ui::Connect(Mnu_SelectAll, &QAction::triggered, this, [this] { Mnu_SelectAll_Click(); });
-    ui::Connect(Mnu_deSelect_All, &QAction::triggered, this, [this] { Mnu_deSelect_All_Click(); });
-    ui::Connect(Mnu_Update, &QAction::triggered, this, [this] { Mnu_Update_Click(); });
-    ui::Connect(Mnu_SetNameStr, &QAction::triggered, this, [this] { Mnu_SetNameStr_Click(); });
 }
 
 void frm_SelectView::buildControls()
@@ -123,7 +112,7 @@ void frm_SelectView::buildControls()
     const char* const shown[] = {"設置", "撤去"};
     for (int i = 0; i <= 1; ++i) {
         auto* o = new QRadioButton(QString::fromUtf8(shown[i]), Frame1);
-        o->setObjectName(QStringLiteral("OptDel_%1").arg(i));
+        ui::SetArrayName(o, "OptDel", i);
         frameLayout->addWidget(o);
         OptDel[size_t(i)] = o;
         ui::Connect(o, &QRadioButton::clicked, this, [this, i] { OptDel_Click(i); });
@@ -137,7 +126,7 @@ void frm_SelectView::buildControls()
     std::array<QLabel*, 3> keyLabels{};
     for (int i = 0; i <= 2; ++i) {
         auto* combo = new SortKeyCombo(this);
-        combo->setObjectName(QStringLiteral("cmb_Order_%1").arg(i));
+        ui::SetArrayName(combo, "cmb_Order", i);
         combo->setMaxVisibleItems(20);
         combo->DropDown = [this, i] { cmb_Order_DropDown(i); };
         cmb_Order[size_t(i)] = combo;
@@ -149,14 +138,14 @@ void frm_SelectView::buildControls()
         keyLabels[size_t(i)] = label;
 
         auto* frame = new QGroupBox(this);
-        frame->setObjectName(QStringLiteral("Frm_ASC_DESC_%1").arg(i));
+        ui::SetArrayName(frame, "Frm_ASC_DESC", i);
         auto* directions = new QHBoxLayout(frame);
         directions->setContentsMargins(6, 2, 6, 2);
         const char* const captions[] = {"昇順", "降順"};
         for (int d = 0; d <= 1; ++d) {
             const int index = 2 * i + d;
             auto* o = new QRadioButton(QString::fromUtf8(captions[d]), frame);
-            o->setObjectName(QStringLiteral("Opt_ASC_DESC_%1").arg(index));
+            ui::SetArrayName(o, "Opt_ASC_DESC", index);
             directions->addWidget(o);
             Opt_ASC_DESC[size_t(index)] = o;
             ui::Connect(o, &QRadioButton::clicked, this, [this, index] { Opt_ASC_DESC_Click(index); });
@@ -200,7 +189,7 @@ void frm_SelectView::Form_Load()
 {
     ui::FixedSize::Apply(*this, kWidth, kHeight);
     for (int i = 1; i <= kColumns; ++i) {
-        auto* item = new QListWidgetItem(ColumnTable[i].caption, Lst_Select);
+        auto* item = new QListWidgetItem(g.ColumnTable[i].caption, Lst_Select);
         item->setData(Qt::UserRole, i);
     }
     ShowSelectedColumns();
@@ -217,8 +206,8 @@ void frm_SelectView::Form_Load()
 void frm_SelectView::ShowSelectedColumns()
 {
     Lst_Select->clearSelection();
-    for (int i = 0; i <= SelectedColumnCount; ++i) {
-        const int column = SelectedColumns[i];
+    for (int i = 0; i <= g.SelectedColumnCount; ++i) {
+        const int column = g.SelectedColumns[i];
         // A column number beyond the list, which only a hand-edited file holds, is left out; the
         // next apply drops it from the view.
         if (column > 0 && column <= Lst_Select->count())
@@ -230,8 +219,8 @@ void frm_SelectView::ShowOptDel()
 {
     // A value other than 0 or 1 (a hand-edited file lists both kinds) checks neither option; the
     // value then stays as it is until the user picks one.
-    if (Mdl_gData::OptDel == 0 || Mdl_gData::OptDel == 1) {
-        OptDel[size_t(Mdl_gData::OptDel)]->setChecked(true);
+    if (Mdl_gData::g.OptDel == 0 || Mdl_gData::g.OptDel == 1) {
+        OptDel[size_t(Mdl_gData::g.OptDel)]->setChecked(true);
     } else {
         for (QRadioButton* o : OptDel) {
             o->setAutoExclusive(false);
@@ -247,16 +236,16 @@ void frm_SelectView::ShowSortKeys()
     // each row's key from cmb_key, whatever the combo's list held before.
     for (int i = 0; i <= 2; ++i) {
         cmb_Order[size_t(i)]->setCurrentIndex(-1);
-        cmb_Order[size_t(i)]->setPlaceholderText(SortKeyCaption[i]);
-        cmb_key[size_t(i)] = SortKeyName[i];
+        cmb_Order[size_t(i)]->setPlaceholderText(g.SortKeyCaption[i]);
+        cmb_key[size_t(i)] = g.SortKeyName[i];
     }
 }
 
 void frm_SelectView::ShowSortDirections()
 {
     // only the keys in use; a count beyond the three rows (a hand-edited file) shows the three
-    for (int i = 0; i < SelectNumber && i <= 2; ++i) {
-        if (SortKeyDirection[i] == QStringLiteral("DESC"))
+    for (int i = 0; i < g.SelectNumber && i <= 2; ++i) {
+        if (g.SortKeyDirection[i] == QStringLiteral("DESC"))
             Opt_ASC_DESC[size_t(2 * i + 1)]->setChecked(true);
         else
             Opt_ASC_DESC[size_t(2 * i)]->setChecked(true);
@@ -267,10 +256,10 @@ void frm_SelectView::ShowViewMenu()
 {
     for (int i = 0; i <= 7; ++i) {
         Mnu_ViewSelect[size_t(i)]->setChecked(false);
-        Mnu_ViewSelect[size_t(i)]->setText(QString::number(i) + QStringLiteral(":") + ViewNames[i]);
+        Mnu_ViewSelect[size_t(i)]->setText(QString::number(i) + QStringLiteral(":") + g.ViewNames[i]);
     }
-    if (SectionNumber >= 0 && SectionNumber <= 7)
-        Mnu_ViewSelect[size_t(SectionNumber)]->setChecked(true);
+    if (g.SectionNumber >= 0 && g.SectionNumber <= 7)
+        Mnu_ViewSelect[size_t(g.SectionNumber)]->setChecked(true);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -278,15 +267,15 @@ void frm_SelectView::ShowViewMenu()
 
 void frm_SelectView::ReadSelectedColumns()
 {
-    SelectedColumnCount = 0;
+    g.SelectedColumnCount = 0;
     for (int i = 1; i <= kColumns; ++i)
-        SelectedColumns[i] = 0;
+        g.SelectedColumns[i] = 0;
     // in the order of ColumnTable, whatever order the user clicked in: a view chooses columns,
     // it does not order them
     for (int i = 1; i <= kColumns; ++i) {
         if (Lst_Select->item(i - 1)->isSelected()) {
-            ++SelectedColumnCount;
-            SelectedColumns[SelectedColumnCount] = std::int16_t(i);
+            ++g.SelectedColumnCount;
+            g.SelectedColumns[g.SelectedColumnCount] = std::int16_t(i);
         }
     }
 }
@@ -294,9 +283,9 @@ void frm_SelectView::ReadSelectedColumns()
 void frm_SelectView::ReadOptDel()
 {
     if (OptDel[0]->isChecked())
-        Mdl_gData::OptDel = 0;
+        Mdl_gData::g.OptDel = 0;
     else if (OptDel[1]->isChecked())
-        Mdl_gData::OptDel = 1;
+        Mdl_gData::g.OptDel = 1;
 }
 
 void frm_SelectView::ReadSortKeys()
@@ -305,40 +294,40 @@ void frm_SelectView::ReadSortKeys()
     // n is the next free slot: the keys in use move to the front, without gaps
     int n = 0;
     for (int i = 0; i <= 2; ++i) {
-        SortKeyDirection[n] = Opt_ASC_DESC[size_t(2 * i + 1)]->isChecked() ? QStringLiteral("DESC") : QStringLiteral("ASC");
+        g.SortKeyDirection[n] = Opt_ASC_DESC[size_t(2 * i + 1)]->isChecked() ? QStringLiteral("DESC") : QStringLiteral("ASC");
         const QComboBox* combo = cmb_Order[size_t(i)];
         const int picked = combo->currentIndex();
         if (picked >= 1) {
             const int row = combo->itemData(picked).toInt();
-            SortKeyName[n] = ColumnTable[row].field;
-            SortKeyCaption[n] = ColumnTable[row].caption;
-            cmb_key[size_t(n)] = ColumnTable[row].field;
+            g.SortKeyName[n] = g.ColumnTable[row].field;
+            g.SortKeyCaption[n] = g.ColumnTable[row].caption;
+            cmb_key[size_t(n)] = g.ColumnTable[row].field;
             ++n;
         } else if (picked == 0) {
             // the blank item: the row's key is given up
-            SortKeyName[n] = QString();
-            SortKeyCaption[n] = blank;
+            g.SortKeyName[n] = QString();
+            g.SortKeyCaption[n] = blank;
             cmb_key[size_t(n)] = QString();
         } else if (cmb_key[size_t(i)].isEmpty()) {
             // not touched, and no key before either
-            SortKeyName[i] = QString();
-            SortKeyCaption[i] = blank;
+            g.SortKeyName[i] = QString();
+            g.SortKeyCaption[i] = blank;
         } else {
             // not touched: the row keeps the key it had
-            SortKeyName[n] = cmb_key[size_t(i)];
-            SortKeyCaption[n] = SortKeyCaption[i];
+            g.SortKeyName[n] = cmb_key[size_t(i)];
+            g.SortKeyCaption[n] = g.SortKeyCaption[i];
             cmb_key[size_t(n)] = cmb_key[size_t(i)];
             ++n;
         }
     }
-    SelectNumber = std::int16_t(n);
+    g.SelectNumber = std::int16_t(n);
     // The slots behind the keys in use are emptied. Their direction reads "DESC" while the
     // ascending option is set; a direction beyond SelectNumber is never read.
     for (int j = n; j <= 2; ++j) {
-        SortKeyName[j] = QString();
-        SortKeyCaption[j] = blank;
+        g.SortKeyName[j] = QString();
+        g.SortKeyCaption[j] = blank;
         cmb_key[size_t(j)] = QString();
-        SortKeyDirection[j] = QStringLiteral("DESC");
+        g.SortKeyDirection[j] = QStringLiteral("DESC");
         Opt_ASC_DESC[size_t(2 * j)]->setChecked(true);
     }
 }
@@ -367,7 +356,7 @@ void frm_SelectView::cmb_Order_DropDown(int index)
     combo->clear();
     combo->addItem(QStringLiteral(" "), 0);
     for (int i = 1; i <= kColumns; ++i)
-        combo->addItem(ColumnTable[i].caption, i);
+        combo->addItem(g.ColumnTable[i].caption, i);
     combo->setCurrentIndex(-1);
 }
 
@@ -384,23 +373,23 @@ void frm_SelectView::Mnu_Update_Click()
 
     // The view's section is erased first, so that no key of an earlier, longer column list
     // survives.
-    const QString section = QString::number(SectionNumber);
+    const QString section = QString::number(g.SectionNumber);
     IniWrite(section, std::nullopt, std::nullopt);
-    IniWrite(section, QStringLiteral("OptDel"), QString::number(Mdl_gData::OptDel));
-    IniWrite(section, QStringLiteral("SelectNumber"), QString::number(SelectNumber));
+    IniWrite(section, QStringLiteral("OptDel"), QString::number(Mdl_gData::g.OptDel));
+    IniWrite(section, QStringLiteral("SelectNumber"), QString::number(g.SelectNumber));
     for (int i = 0; i <= 2; ++i)
-        IniWrite(section, QStringLiteral("KeyName%1").arg(i), SortKeyName[i]);
+        IniWrite(section, QStringLiteral("KeyName%1").arg(i), g.SortKeyName[i]);
     for (int i = 0; i <= 2; ++i)
-        IniWrite(section, QStringLiteral("KeyCaption%1").arg(i), SortKeyCaption[i]);
+        IniWrite(section, QStringLiteral("KeyCaption%1").arg(i), g.SortKeyCaption[i]);
     for (int i = 0; i <= 2; ++i)
-        IniWrite(section, QStringLiteral("KeyASCDESC%1").arg(i), SortKeyDirection[i]);
-    IniWrite(section, QStringLiteral("MSFlexGrit_SelectNum"), QString::number(SelectedColumnCount));
-    for (int i = 1; i <= SelectedColumnCount; ++i)
-        IniWrite(section, QStringLiteral("MSFlexGrit_Select%1").arg(i), QString::number(SelectedColumns[i]));
+        IniWrite(section, QStringLiteral("KeyASCDESC%1").arg(i), g.SortKeyDirection[i]);
+    IniWrite(section, QStringLiteral("MSFlexGrit_SelectNum"), QString::number(g.SelectedColumnCount));
+    for (int i = 1; i <= g.SelectedColumnCount; ++i)
+        IniWrite(section, QStringLiteral("MSFlexGrit_Select%1").arg(i), QString::number(g.SelectedColumns[i]));
 
-    IniWrite(QStringLiteral("Main"), QStringLiteral("SectionNumber"), QString::number(SectionNumber));
+    IniWrite(QStringLiteral("Main"), QStringLiteral("SectionNumber"), QString::number(g.SectionNumber));
     for (int i = 0; i <= 7; ++i)
-        IniWrite(QStringLiteral("Main"), QStringLiteral("SectionName%1").arg(i), ViewNames[i]);
+        IniWrite(QStringLiteral("Main"), QStringLiteral("SectionName%1").arg(i), g.ViewNames[i]);
 
     // The list is filled again without clearing its selection: row 1 is painted as selected
     // while the main window keeps the key it had.
@@ -415,14 +404,14 @@ void frm_SelectView::Mnu_Update_Click()
 
 void frm_SelectView::Mnu_SetNameStr_Click()
 {
-    if (SectionNumber < 0 || SectionNumber > 7)
+    if (g.SectionNumber < 0 || g.SectionNumber > 7)
         return;
-    const QString name = ui::InputBox(QStringLiteral("項目") + QString::number(SectionNumber) + QStringLiteral("に名前をつけてください"),
+    const QString name = ui::InputBox(QStringLiteral("項目") + QString::number(g.SectionNumber) + QStringLiteral("に名前をつけてください"),
                                       QStringLiteral("名称変更"));
     if (!name.isEmpty())
-        ViewNames[SectionNumber] = name;
+        g.ViewNames[g.SectionNumber] = name;
     // written even when the box was cancelled: the same name goes back to the file
-    IniWrite(QStringLiteral("Main"), QStringLiteral("SectionName") + QString::number(SectionNumber), ViewNames[SectionNumber]);
+    IniWrite(QStringLiteral("Main"), QStringLiteral("SectionName") + QString::number(g.SectionNumber), g.ViewNames[g.SectionNumber]);
     ShowViewMenu();
 }
 
@@ -430,9 +419,8 @@ void frm_SelectView::Mnu_ViewSelect_Click(int index)
 {
     // Unsaved changes are dropped in silence. The view's number reaches the file only at an
     // apply or at Mnu_Close, so the close box leaves the next start on the earlier view.
-    SectionNumber = std::int16_t(index);
-    mdl_ini::LoadViewSettings();
-    gSetSQLVal();
+    g.SectionNumber = std::int16_t(index);
+    LoadView();
     refreshMainList();
 
     ShowSelectedColumns();
@@ -445,12 +433,12 @@ void frm_SelectView::Mnu_ViewSelect_Click(int index)
 
 void frm_SelectView::Mnu_Close_Click()
 {
-    IniWrite(QStringLiteral("Main"), QStringLiteral("SectionNumber"), QString::number(SectionNumber));
+    IniWrite(QStringLiteral("Main"), QStringLiteral("SectionNumber"), QString::number(g.SectionNumber));
     Unload();
 }
 
 void frm_SelectView::refreshMainList()
 {
-    if (MainList* list = MainList::Instance())
-        list->fnc_View_PClist();
+    if (g.RefillMainList)
+        g.RefillMainList();
 }

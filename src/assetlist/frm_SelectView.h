@@ -27,7 +27,7 @@ class StatusBar;
 //
 // Opened modally from the main window; its size is fixed. Mnu_Update stays disabled until a
 // control changes, and works as the window's dirty mark: a switch drops unsaved changes.
-class frm_SelectView : public ui::Form {
+class frm_SelectView : public ui::SingleForm<frm_SelectView> {
     Q_OBJECT
 
 public:

@@ -2,7 +2,6 @@
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
-#include "platform/app/App.h"
 #include "platform/app/CommandLine.h"
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
@@ -11,13 +10,9 @@
 
 namespace AdminLedger {
 
-QString PathOf(const app::CommandLine& command)
+bool Open(const app::CommandLine& command)
 {
-    return command.Value("--ledger", app::Path() + QStringLiteral("/pcdb.mdb"));
-}
-
-bool Open(const app::CommandLine& command, const QString& path)
-{
+    const QString path = command.LedgerPath();
     const QFileInfo info(path);
     if (!info.isFile()) {
         command.Error(QStringLiteral("no ledger at ") + path);

@@ -2,6 +2,7 @@
 
 #include "foundation/Mdl_gData.h"
 #include "platform/app/App.h"
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/Dialogs.h"
 #include "platform/vb/Conversion.h"
@@ -18,16 +19,16 @@ bool ConnectDatabase()
     const QString dataSource = QStringLiteral("Data Source=") + app::Path() + QLatin1Char('/') + QStringLiteral("pcdb.mdb");
     try {
         if (!QFileInfo(app::Path() + QStringLiteral("/pcdb.mdb")).isFile()) {
-            if (Mdl_gData::StatusPanelText)
-                Mdl_gData::StatusPanelText(QStringLiteral("DBファイルが見つかりません。") + vbCrLf + dataSource + QStringLiteral("を確認ください"));
+            if (Mdl_gData::g.StatusPanelText)
+                Mdl_gData::g.StatusPanelText(QStringLiteral("DBファイルが見つかりません。") + vbCrLf + dataSource + QStringLiteral("を確認ください"));
             return false;
         }
         Mdl_gData::ReleaseDbConnection();
         db::Connection& c = DbConnection();
         c.ConnectionString = QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;") + dataSource;
         if (c.State() == db::adStateOpen) {
-            if (Mdl_gData::StatusPanelText)
-                Mdl_gData::StatusPanelText(QStringLiteral("接続に失敗しました"));
+            if (Mdl_gData::g.StatusPanelText)
+                Mdl_gData::g.StatusPanelText(QStringLiteral("接続に失敗しました"));
             return false;
         }
         c.Open();

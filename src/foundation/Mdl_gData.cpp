@@ -1,5 +1,7 @@
 #include "foundation/Mdl_gData.h"
 
+#include "platform/db/Connection.h"
+
 #include <memory>
 
 namespace Mdl_gData {
@@ -21,41 +23,21 @@ void ReleaseDbConnection() { g_connection.reset(); }
 
 void FillCodeTables()
 {
-    CodeTables[0] = {QStringLiteral("ユーザー"), QStringLiteral("tbl_User"), QStringLiteral("User_Name"), QStringLiteral("User_Code")};
-    CodeTables[1] = {QStringLiteral("部"), QStringLiteral("tbl_Section"), QStringLiteral("Section_Name"), QStringLiteral("Section_Code")};
-    CodeTables[2] = {QStringLiteral("課"), QStringLiteral("tbl_Division"), QStringLiteral("Division_Name"), QStringLiteral("Division_Code")};
-    CodeTables[3] = {QStringLiteral("設置場所"), QStringLiteral("tbl_Location"), QStringLiteral("Location_Name"), QStringLiteral("Location_Code")};
-    CodeTables[4] = {QStringLiteral("メーカー"), QStringLiteral("tbl_Manufacturer"), QStringLiteral("Manufacturer_Name"),
-                     QStringLiteral("Manufacturer_Code")};
-    CodeTables[5] = {QStringLiteral("モデル"), QStringLiteral("tbl_Model"), QStringLiteral("Model_Name"), QStringLiteral("Model_Code")};
+    auto row = [](const char* caption, const char* table, const char* name, const char* code) {
+        return CodeTableRow{QString::fromUtf8(caption), QString::fromUtf8(table), QString::fromUtf8(name), QString::fromUtf8(code)};
+    };
+    g.CodeTables[0] = row("ユーザー", "tbl_User", "User_Name", "User_Code");
+    g.CodeTables[1] = row("部", "tbl_Section", "Section_Name", "Section_Code");
+    g.CodeTables[2] = row("課", "tbl_Division", "Division_Name", "Division_Code");
+    g.CodeTables[3] = row("設置場所", "tbl_Location", "Location_Name", "Location_Code");
+    g.CodeTables[4] = row("メーカー", "tbl_Manufacturer", "Manufacturer_Name", "Manufacturer_Code");
+    g.CodeTables[5] = row("モデル", "tbl_Model", "Model_Name", "Model_Code");
 }
 
 void Reset()
 {
     ReleaseDbConnection();
-    SelectedMainKey = SelectedGridRow = 0;
-    ListRowKeys.fill(0);
-    ListRowCount = 0;
-    CurrentTableName.clear();
-    CurrentTableCaption.clear();
-    CurrentTableIndex = 0;
-    CodeTables.fill({});
-    ColumnTable.fill({});
-    ColumnCount = 0;
-    SelectedColumns.fill(0);
-    SelectedColumnCount = 0;
-    ListSql.clear();
-    SectionNumber = 0;
-    ViewNames.fill({});
-    SortKeyName.fill({});
-    SortKeyCaption.fill({});
-    SortKeyDirection.fill({});
-    SelectNumber = OptDel = 0;
-    MainFormWidth = MainFormHeight = MainFormTop = MainFormLeft = 0;
-    LastReadMainKey = 0;
-    CsvFileBaseName.clear();
-    CsvFileExtension.clear();
-    StatusPanelText = nullptr;
+    g = {};
 }
 
 } // namespace Mdl_gData

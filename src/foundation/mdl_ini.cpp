@@ -49,7 +49,7 @@ bool IniWrite(const QString& section, const std::optional<QString>& key, const s
 std::int16_t LoadViewSettings()
 {
     using namespace Mdl_gData;
-    const QString section = QString::number(SectionNumber);
+    const QString section = QString::number(g.SectionNumber);
     // Each key is read once to see whether it is there and once more to take it.
     const auto number = [&section](const QString& key) -> std::int16_t {
         if (IniRead(section, key) != QString())
@@ -61,29 +61,29 @@ std::int16_t LoadViewSettings()
             into = IniRead(section, key);
     };
 
-    OptDel = number(QStringLiteral("OptDel"));
-    SelectNumber = number(QStringLiteral("SelectNumber"));
+    g.OptDel = number(QStringLiteral("OptDel"));
+    g.SelectNumber = number(QStringLiteral("SelectNumber"));
 
     for (int i = 0; i <= 2; ++i) {
-        SortKeyName[i] = QString();
-        SortKeyCaption[i] = QString();
+        g.SortKeyName[i] = QString();
+        g.SortKeyCaption[i] = QString();
     }
-    SelectedColumnCount = 0;
-    for (int i = 1; i <= ColumnCount; ++i)
-        SelectedColumns[i] = 0;
+    g.SelectedColumnCount = 0;
+    for (int i = 1; i <= g.ColumnCount; ++i)
+        g.SelectedColumns[i] = 0;
 
     // a direction left out keeps what memory held
     for (int i = 0; i <= 2; ++i) {
-        text(QStringLiteral("KeyName%1").arg(i), SortKeyName[i]);
-        text(QStringLiteral("KeyCaption%1").arg(i), SortKeyCaption[i]);
-        text(QStringLiteral("KeyASCDESC%1").arg(i), SortKeyDirection[i]);
+        text(QStringLiteral("KeyName%1").arg(i), g.SortKeyName[i]);
+        text(QStringLiteral("KeyCaption%1").arg(i), g.SortKeyCaption[i]);
+        text(QStringLiteral("KeyASCDESC%1").arg(i), g.SortKeyDirection[i]);
     }
 
-    SelectedColumnCount = number(QStringLiteral("MSFlexGrit_SelectNum"));
+    g.SelectedColumnCount = number(QStringLiteral("MSFlexGrit_SelectNum"));
     // Place 0 is never loaded: it stays 0, the row of the key column. A count beyond 256 runs
     // off the end of SelectedColumns and raises error 9 to the caller.
-    for (int i = 1; i <= SelectedColumnCount; ++i)
-        SelectedColumns[i] = number(QStringLiteral("MSFlexGrit_Select%1").arg(i));
+    for (int i = 1; i <= g.SelectedColumnCount; ++i)
+        g.SelectedColumns[i] = number(QStringLiteral("MSFlexGrit_Select%1").arg(i));
     return 0;
 }
 

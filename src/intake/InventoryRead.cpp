@@ -3,6 +3,7 @@
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "intake/Staging.h"
+#include "platform/db/Connection.h"
 #include "platform/vb/Conversion.h"
 
 using namespace Mdl_Access_mdb;
@@ -135,7 +136,7 @@ InventoryFileResult InventoryReader::readOne(const QString& path)
     ExecuteSql(QStringLiteral("INSERT INTO tbl_PClist (MainKey) VALUES (") + key + QStringLiteral(")"));
     writeFieldMap(key);
     CopyAllStagingRows(key);
-    Mdl_gData::LastReadMainKey = m_key;
+    Mdl_gData::g.LastReadMainKey = m_key;
     result.mainKey = m_key;
     return result;
 }

@@ -38,7 +38,7 @@ int ReadCommand(const QStringList& args)
     const QStringList& files = command.Operands();
     if (files.isEmpty())
         return command.Usage(QStringLiteral("no inventory file given"));
-    if (!AdminLedger::Open(command, AdminLedger::PathOf(command)))
+    if (!AdminLedger::Open(command))
         return app::ExitFailed;
 
     const InventoryLanguage language = command.Has("--english") ? InventoryLanguage::English : InventoryLanguage::Japanese;

@@ -2,6 +2,7 @@
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/text/LineInput.h"
 #include "platform/vb/Conversion.h"
@@ -60,8 +61,8 @@ bool ReadCsvToStaging(const QString& path)
     // and a path of fewer than four characters gives an empty name instead of an error.
     const QString withoutExtension = path.left(qMax<qsizetype>(0, path.size() - 4));
     const qsizetype cut = qMax(withoutExtension.lastIndexOf(QLatin1Char('\\')), withoutExtension.lastIndexOf(QLatin1Char('/')));
-    Mdl_gData::CsvFileBaseName = withoutExtension.mid(cut + 1);
-    Mdl_gData::CsvFileExtension = path.right(3);
+    Mdl_gData::g.CsvFileBaseName = withoutExtension.mid(cut + 1);
+    Mdl_gData::g.CsvFileExtension = path.right(3);
 
     text::LineInput input(text::ReadWholeFile(path));
     const QString header = input.next();

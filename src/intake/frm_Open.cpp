@@ -1,6 +1,6 @@
 #include "intake/frm_Open.h"
 
-#include "assetlist/MainList.h"
+#include "foundation/Mdl_gData.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "intake/DirListBox.h"
 #include "intake/DriveListBox.h"
@@ -48,16 +48,11 @@ void frm_Open::buildMenus()
 {
     MenuBar = ui::AddMenuBar(this);
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", QStringLiteral("ファイル"));
-    auto item = [this](const char* name, const char* caption) {
-        return ui::AddMenuItem(Mnu_File, name, QString::fromUtf8(caption));
-    };
-    Mnu_ReadCSV = item("Mnu_ReadCSV", "Sondex ファイル読込み");
-    Mnu_Read_English = item("Mnu_Read_English", "Read Sondex Data (English) ");   // the blank is the caption's
-    Mnu_Close = item("Mnu_Close", "閉じる");
-
-    ui::Connect(Mnu_ReadCSV, &QAction::triggered, this, [this] { Mnu_ReadCSV_Click(); });
-    ui::Connect(Mnu_Read_English, &QAction::triggered, this, [this] { Mnu_Read_English_Click(); });
-    ui::Connect(Mnu_Close, &QAction::triggered, this, [this] { Mnu_Close_Click(); });
+    Mnu_ReadCSV = ui::AddMenuItem(Mnu_File, "Mnu_ReadCSV", "Sondex ファイル読込み", [this] { Mnu_ReadCSV_Click(); });
+    // the blank is the caption's
+    Mnu_Read_English =
+        ui::AddMenuItem(Mnu_File, "Mnu_Read_English", "Read Sondex Data (English) ", [this] { Mnu_Read_English_Click(); });
+    Mnu_Close = ui::AddMenuItem(Mnu_File, "Mnu_Close", "閉じる", [this] { Mnu_Close_Click(); });
 }
 
 void frm_Open::buildControls()
@@ -278,8 +273,8 @@ void frm_Open::readSelectedFiles(InventoryLanguage language)
             step([&] { ui::MsgBox(japanese ? QStringLiteral("読み込みが完了しました。") : QStringLiteral("Process Comprete")); });
         }
         step([&] {
-            if (MainList* list = MainList::Instance())
-                list->fnc_View_PClist();
+            if (Mdl_gData::g.RefillMainList)
+                Mdl_gData::g.RefillMainList();
         });
         step([&] { Mnu_ReadCSV->setEnabled(false); });
     } catch (const vb::VbError& e) {

@@ -20,7 +20,7 @@ class QProgressBar;
 // into a new computer. The reading itself is InventoryReader's, the same as fenwold-admin read;
 // this window adds the choice of files, the progress bar, the end message and the refresh of the
 // main list. Opened modally from the main window; its size is fixed.
-class frm_Open : public ui::Form {
+class frm_Open : public ui::SingleForm<frm_Open> {
     Q_OBJECT
 
 public:

@@ -2,15 +2,9 @@
 
 #include "ledger/LedgerFile.h"
 #include "ledger/LedgerTools.h"
-#include "platform/app/App.h"
 #include "platform/app/CommandLine.h"
 
 namespace ledger {
-
-QString LedgerPathOf(const app::CommandLine& command)
-{
-    return command.Value("--ledger", app::Path() + QStringLiteral("/pcdb.mdb"));
-}
 
 int NewLedgerCommand(const QStringList& args)
 {
@@ -37,7 +31,7 @@ int BackupCommand(const QStringList& args)
         return command.Usage(command.Operands().isEmpty() ? QStringLiteral("no output file given")
                                                           : QStringLiteral("one output file only"));
     const QString out = command.Operands().first();
-    const QString error = BackupLedger(LedgerPathOf(command), out);
+    const QString error = BackupLedger(command.LedgerPath(), out);
     if (!error.isEmpty()) {
         command.Error(error);
         return app::ExitFailed;
@@ -53,7 +47,7 @@ int CheckCommand(const QStringList& args)
         return app::ExitFailed;
     if (!command.Operands().isEmpty())
         return command.Usage(QStringLiteral("no operands"));
-    const QString path = LedgerPathOf(command);
+    const QString path = command.LedgerPath();
     const CheckReport report = CheckLedger(path);
     if (!report.opened) {
         command.Error(report.error);

@@ -9,9 +9,6 @@ class CommandLine;
 // The ledger file commands of fenwold-admin.
 namespace ledger {
 
-// The ledger a command works on: --ledger PATH, or pcdb.mdb beside the program.
-QString LedgerPathOf(const app::CommandLine& command);
-
 // fenwold-admin new-ledger PATH: an empty ledger, never over a file. 0 written, 1 not.
 int NewLedgerCommand(const QStringList& args);
 

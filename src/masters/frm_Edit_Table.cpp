@@ -10,7 +10,6 @@
 #include "platform/ui/FixedSize.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/FocusEvents.h"
-#include "platform/ui/FormInstance.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -41,35 +40,17 @@ constexpr int kWidths[] = {600, 2500, 1500, 1200};
 
 } // namespace
 
-frm_Edit_Table& frm_Edit_Table::Instance()
-{
-    static ui::FormInstance<frm_Edit_Table> instance;
-    return instance();
-}
-
-void frm_Edit_Table::OpenModal()
-{
-    frm_Edit_Table& w = Instance();
-    // a load without a table unloads the window at once
-    if (!w.IsUnloaded())
-        w.Show(ui::vbModal);
-}
-
 frm_Edit_Table::frm_Edit_Table()
 {
     setObjectName(QStringLiteral("frm_Edit_Table"));
     MenuBar = ui::AddMenuBar(this);
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", QStringLiteral("ファイル"));
-    Mue_Close = ui::AddMenuItem(Mnu_File, "Mue_Close", QStringLiteral("閉じる"), QKeySequence(Qt::CTRL | Qt::Key_W));
+    Mue_Close = ui::AddMenuItem(Mnu_File, "Mue_Close", "閉じる", [this] { Mue_Close_Click(); }, QKeySequence(Qt::CTRL | Qt::Key_W));
     Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", QStringLiteral("編集"));
-    Mnu_Add = ui::AddMenuItem(Mnu_Edit, "Mnu_Add", QStringLiteral("新規"));
+    Mnu_Add = ui::AddMenuItem(Mnu_Edit, "Mnu_Add", "新規", [this] { Mnu_Add_Click(); });
     ui::AddMenuSeparator(Mnu_Edit, "cepalator03");
-    Mnu_Update = ui::AddMenuItem(Mnu_Edit, "Mnu_Update", QStringLiteral("更新"));
-    Mnu_Delete = ui::AddMenuItem(Mnu_Edit, "Mnu_Delete", QStringLiteral("削除"));
-    ui::Connect(Mue_Close, &QAction::triggered, this, [this] { Mue_Close_Click(); });
-    ui::Connect(Mnu_Add, &QAction::triggered, this, [this] { Mnu_Add_Click(); });
-    ui::Connect(Mnu_Update, &QAction::triggered, this, [this] { Mnu_Update_Click(); });
-    ui::Connect(Mnu_Delete, &QAction::triggered, this, [this] { Mnu_Delete_Click(); });
+    Mnu_Update = ui::AddMenuItem(Mnu_Edit, "Mnu_Update", "更新", [this] { Mnu_Update_Click(); });
+    Mnu_Delete = ui::AddMenuItem(Mnu_Edit, "Mnu_Delete", "削除", [this] { Mnu_Delete_Click(); });
     buildControls();
 }
 
@@ -85,7 +66,7 @@ void frm_Edit_Table::buildControls()
     const char* const captions[] = {"Key", "表示", "補記"};
     for (int i = 0; i < 3; ++i) {
         auto* edit = new QLineEdit(this);
-        edit->setObjectName(QStringLiteral("tbxEdit_%1").arg(i));
+        ui::SetArrayName(edit, "tbxEdit", i);
         ui::FocusEvents::InstallFocusColor(edit, Mdl_Sub::SetFocusColor);
         fields->addRow(QString::fromUtf8(captions[i]), edit);
         tbxEdit[size_t(i)] = edit;
@@ -104,12 +85,12 @@ void frm_Edit_Table::Form_Load()
     ui::FixedSize::Apply(*this, kWidth, kHeight);
     MSFlexGrid_Edit->SetRows(0);
     MSFlexGrid_Edit->SetCols(0);
-    if (Mdl_gData::CurrentTableName.isEmpty()) {
+    if (Mdl_gData::g.CurrentTableName.isEmpty()) {
         Unload();
         return;
     }
-    m_table = Mdl_gData::CurrentTableName;
-    m_caption = Mdl_gData::CurrentTableCaption;
+    m_table = Mdl_gData::g.CurrentTableName;
+    m_caption = Mdl_gData::g.CurrentTableCaption;
     Mnu_Delete->setEnabled(false);
     Mnu_Update->setEnabled(false);
     m_selectedRow = 0;
@@ -139,40 +120,40 @@ void frm_Edit_Table::fillGrid()
                 + QStringLiteral(";"),
             DbConnection(), db::adOpenStatic, db::adLockOptimistic);
 
-    ui::FlexGrid& g = *MSFlexGrid_Edit;
-    g.Clear();
-    g.SetVisible(false);
-    g.SetFixedCols(0);
-    g.SetFixedRows(1);
-    g.SetCols(int(names.size()));
-    g.SetRows(1);
+    ui::FlexGrid& grid = *MSFlexGrid_Edit;
+    grid.Clear();
+    grid.SetVisible(false);
+    grid.SetFixedCols(0);
+    grid.SetFixedRows(1);
+    grid.SetCols(int(names.size()));
+    grid.SetRows(1);
     const QColor gray = ui::QBColor(kGray);
     const QColor white = ui::QBColor(kWhite);
     for (int c = 0; c < int(names.size()); ++c) {
-        g.SetTextMatrix(0, c, c < 4 ? QString::fromUtf8(kHeadings[c]) : names[c]);
+        grid.SetTextMatrix(0, c, c < 4 ? QString::fromUtf8(kHeadings[c]) : names[c]);
         if (c < 4)
-            g.SetColWidth(c, kWidths[c]);
-        g.SetRow(0);
-        g.SetCol(c);
-        g.SetCellBackColor(gray);
+            grid.SetColWidth(c, kWidths[c]);
+        grid.SetRow(0);
+        grid.SetCol(c);
+        grid.SetCellBackColor(gray);
     }
     for (; !rs.Eof(); rs.MoveNext()) {
         // the reserved row 0 is never shown
         if (!(vb::CLng(rs.Value(Code)) > 0))
             continue;
-        const int row = g.Rows();
-        g.SetRows(row + 1);
-        for (int c = 0; c < rs.FieldCount() && c < g.Cols(); ++c) {
+        const int row = grid.Rows();
+        grid.SetRows(row + 1);
+        for (int c = 0; c < rs.FieldCount() && c < grid.Cols(); ++c) {
             const QString text = rs.Value(c).IsNull() ? QString() : vb::CStr(rs.Value(c));
             if (text.isEmpty())
                 continue;
-            g.SetTextMatrix(row, c, text);
-            g.SetRow(row);
-            g.SetCol(c);
-            g.SetCellBackColor(white);
+            grid.SetTextMatrix(row, c, text);
+            grid.SetRow(row);
+            grid.SetCol(c);
+            grid.SetCellBackColor(white);
         }
     }
-    g.SetVisible(true);
+    grid.SetVisible(true);
     rs.Close();
 }
 
@@ -184,33 +165,33 @@ void frm_Edit_Table::clearEdits()
 
 void frm_Edit_Table::paintRow(int row, int qbColour)
 {
-    ui::FlexGrid& g = *MSFlexGrid_Edit;
-    if (row < 1 || row >= g.Rows())
+    ui::FlexGrid& grid = *MSFlexGrid_Edit;
+    if (row < 1 || row >= grid.Rows())
         return;
-    for (int c = 0; c < g.Cols(); ++c) {
-        g.SetRow(row);
-        g.SetCol(c);
-        g.SetCellBackColor(ui::QBColor(qbColour));
+    for (int c = 0; c < grid.Cols(); ++c) {
+        grid.SetRow(row);
+        grid.SetCol(c);
+        grid.SetCellBackColor(ui::QBColor(qbColour));
     }
 }
 
 void frm_Edit_Table::MSFlexGrid_Edit_Click()
 {
-    ui::FlexGrid& g = *MSFlexGrid_Edit;
-    const int row = g.Row();
+    ui::FlexGrid& grid = *MSFlexGrid_Edit;
+    const int row = grid.Row();
     if (!m_filled || row < 1)
         return;
     Mnu_Add->setEnabled(true);
     Mnu_Delete->setEnabled(true);
     Mnu_Update->setEnabled(true);
-    g.SetVisible(false);
+    grid.SetVisible(false);
     paintRow(m_selectedRow, kWhite);
     m_selectedRow = row;
     paintRow(row, kGray);
-    for (int c = 0; c < 3 && c < g.Cols(); ++c)
-        tbxEdit[size_t(c)]->setText(g.TextMatrix(row, c));
-    g.SetVisible(true);
-    g.SetRow(row);
+    for (int c = 0; c < 3 && c < grid.Cols(); ++c)
+        tbxEdit[size_t(c)]->setText(grid.TextMatrix(row, c));
+    grid.SetVisible(true);
+    grid.SetRow(row);
 }
 
 void frm_Edit_Table::Mnu_Add_Click()
@@ -284,7 +265,7 @@ void frm_Edit_Table::Mnu_Delete_Click()
 
 void frm_Edit_Table::Mue_Close_Click()
 {
-    Mdl_gData::CurrentTableName.clear();
-    Mdl_gData::CurrentTableCaption.clear();
+    Mdl_gData::g.CurrentTableName.clear();
+    Mdl_gData::g.CurrentTableCaption.clear();
     Unload();
 }

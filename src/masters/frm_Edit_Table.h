@@ -24,17 +24,11 @@ class FlexGrid;
 // is the reserved unset row and is never shown.
 //
 // Modal, of fixed size. Its routines have no error handler: a failing statement ends the run.
-class frm_Edit_Table : public ui::Form {
+class frm_Edit_Table : public ui::SingleForm<frm_Edit_Table> {
     Q_OBJECT
 
 public:
     frm_Edit_Table();
-
-    // The one instance, created and loaded on first use; after an unload the next use makes a
-    // fresh one.
-    static frm_Edit_Table& Instance();
-    // Opens the editor modally on the table the globals name, from any window.
-    static void OpenModal();
 
     // controls
     QMenuBar* MenuBar;

@@ -11,7 +11,6 @@
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/FocusEvents.h"
-#include "platform/ui/FormInstance.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -62,12 +61,6 @@ QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v)
 
 } // namespace
 
-frm_Edit_User& frm_Edit_User::Instance()
-{
-    static ui::FormInstance<frm_Edit_User> instance;
-    return instance();
-}
-
 frm_Edit_User::frm_Edit_User()
 {
     setObjectName(QStringLiteral("frm_Edit_User"));
@@ -80,20 +73,14 @@ void frm_Edit_User::buildMenus()
 {
     MenuBar = ui::AddMenuBar(this);
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", QStringLiteral("ファイル"));
-    Mnu_Close = ui::AddMenuItem(Mnu_File, "Mnu_Close", QStringLiteral("閉じる"));
+    Mnu_Close = ui::AddMenuItem(Mnu_File, "Mnu_Close", "閉じる", [this] { Mnu_Close_Click(); });
     Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", QStringLiteral("編集"));
-    Mnu_Add = ui::AddMenuItem(Mnu_Edit, "Mnu_Add", QStringLiteral("新規"));
-    Mnu_Update = ui::AddMenuItem(Mnu_Edit, "Mnu_Update", QStringLiteral("更新"));
-    Mnu_delete = ui::AddMenuItem(Mnu_Edit, "Mnu_delete", QStringLiteral("削除"));
+    Mnu_Add = ui::AddMenuItem(Mnu_Edit, "Mnu_Add", "新規", [this] { Mnu_Add_Click(); });
+    Mnu_Update = ui::AddMenuItem(Mnu_Edit, "Mnu_Update", "更新", [this] { Mnu_Update_Click(); });
+    Mnu_delete = ui::AddMenuItem(Mnu_Edit, "Mnu_delete", "削除", [this] { Mnu_Delete_Click(); });
     Mnu_Managements = ui::AddMenu(MenuBar, "Mnu_Managements", QStringLiteral("管理"));
-    Mnu_Section = ui::AddMenuItem(Mnu_Managements, "Mnu_Section", QStringLiteral("部"));
-    Mnu_Division = ui::AddMenuItem(Mnu_Managements, "Mnu_Division", QStringLiteral("課"));
-    ui::Connect(Mnu_Close, &QAction::triggered, this, [this] { Mnu_Close_Click(); });
-    ui::Connect(Mnu_Add, &QAction::triggered, this, [this] { Mnu_Add_Click(); });
-    ui::Connect(Mnu_Update, &QAction::triggered, this, [this] { Mnu_Update_Click(); });
-    ui::Connect(Mnu_delete, &QAction::triggered, this, [this] { Mnu_Delete_Click(); });
-    ui::Connect(Mnu_Section, &QAction::triggered, this, [this] { Mnu_Section_Click(); });
-    ui::Connect(Mnu_Division, &QAction::triggered, this, [this] { Mnu_Division_Click(); });
+    Mnu_Section = ui::AddMenuItem(Mnu_Managements, "Mnu_Section", "部", [this] { Mnu_Section_Click(); });
+    Mnu_Division = ui::AddMenuItem(Mnu_Managements, "Mnu_Division", "課", [this] { Mnu_Division_Click(); });
 }
 
 void frm_Edit_User::buildControls()
@@ -144,7 +131,7 @@ void frm_Edit_User::buildControls()
     fields->addWidget(tbx_Division_Code, 2, 2);
     for (int i = kFirstEdit; i <= 8; ++i) {
         auto* edit = new QLineEdit(this);
-        edit->setObjectName(QStringLiteral("tbxEdit_%1").arg(i));
+        ui::SetArrayName(edit, "tbxEdit", i);
         ui::FocusEvents::InstallFocusColor(edit, Mdl_Sub::SetFocusColor);
         tbxEdit[size_t(i)] = edit;
         const int at = i - kFirstEdit;
@@ -165,10 +152,10 @@ void frm_Edit_User::buildControls()
 void frm_Edit_User::Form_Load()
 {
     using namespace Mdl_gData;
-    SetWidth(MainFormWidth);
-    SetHeight(MainFormHeight);
-    SetTop(MainFormTop);
-    SetLeft(MainFormLeft);
+    SetWidth(g.MainFormWidth);
+    SetHeight(g.MainFormHeight);
+    SetTop(g.MainFormTop);
+    SetLeft(g.MainFormLeft);
     MSFlexGrid_Edit->SetRows(0);
     MSFlexGrid_Edit->SetCols(0);
     lbr_Key->setText(QStringLiteral(" "));
@@ -191,37 +178,37 @@ void frm_Edit_User::fillGrid()
                     + QStringLiteral("((tbl_User.Division_Code)=([tbl_Division].[Division_Code]))") + QStringLiteral(" AND ")
                     + QStringLiteral("((tbl_User.Available_flug) ='0')") + QStringLiteral(") ") + QStringLiteral(";"),
                 DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        ui::FlexGrid& g = *MSFlexGrid_Edit;
-        g.Clear();
-        g.SetVisible(false);
-        g.SetFixedRows(1);
-        g.SetFixedCols(1);
-        g.SetCols(kCols);
-        g.SetRows(1);
-        g.SetColWidth(0, 0);
+        ui::FlexGrid& grid = *MSFlexGrid_Edit;
+        grid.Clear();
+        grid.SetVisible(false);
+        grid.SetFixedRows(1);
+        grid.SetFixedCols(1);
+        grid.SetCols(kCols);
+        grid.SetRows(1);
+        grid.SetColWidth(0, 0);
         for (int c = 1; c < kCols; ++c) {
-            g.SetTextMatrix(0, c, QString::fromUtf8(kColumns[c - 1].heading));
-            g.SetColWidth(c, kColumns[c - 1].width);
+            grid.SetTextMatrix(0, c, QString::fromUtf8(kColumns[c - 1].heading));
+            grid.SetColWidth(c, kColumns[c - 1].width);
         }
         m_rowCodes.assign(1, {});
         const QColor gray = ui::QBColor(kGray);
         for (; !rs.Eof(); rs.MoveNext()) {
-            const int row = g.Rows();
-            g.SetRows(row + 1);
-            g.SetTextMatrix(row, 0, text(rs.Fields(u"tbl_User.User_Code").Value()));
+            const int row = grid.Rows();
+            grid.SetRows(row + 1);
+            grid.SetTextMatrix(row, 0, text(rs.Fields(u"tbl_User.User_Code").Value()));
             for (int c = 1; c < kCols; ++c) {
                 const UserColumn& col = kColumns[c - 1];
-                g.SetTextMatrix(row, c, text(rs.Fields(col.field).Value()));
+                grid.SetTextMatrix(row, c, text(rs.Fields(col.field).Value()));
                 if (col.flagField && text(rs.Fields(col.flagField).Value()) == QLatin1String("1")) {
-                    g.SetRow(row);
-                    g.SetCol(c);
-                    g.SetCellBackColor(gray);
+                    grid.SetRow(row);
+                    grid.SetCol(c);
+                    grid.SetCellBackColor(gray);
                 }
             }
             m_rowCodes.emplace_back(text(rs.Fields(u"tbl_User.Section_Code").Value()),
                                     text(rs.Fields(u"tbl_User.Division_Code").Value()));
         }
-        g.SetVisible(true);
+        grid.SetVisible(true);
         rs.Close();
         m_filled = true;
     } catch (const vb::VbError& e) {
@@ -243,23 +230,23 @@ void frm_Edit_User::clearEdits()
 
 void frm_Edit_User::paintRow(int row, int qbColour)
 {
-    ui::FlexGrid& g = *MSFlexGrid_Edit;
-    if (row < 1 || row >= g.Rows())
+    ui::FlexGrid& grid = *MSFlexGrid_Edit;
+    if (row < 1 || row >= grid.Rows())
         return;
-    g.SetVisible(false);
-    for (int c = 1; c < g.Cols(); ++c) {
-        g.SetRow(row);
-        g.SetCol(c);
-        g.SetCellBackColor(ui::QBColor(qbColour));
+    grid.SetVisible(false);
+    for (int c = 1; c < grid.Cols(); ++c) {
+        grid.SetRow(row);
+        grid.SetCol(c);
+        grid.SetCellBackColor(ui::QBColor(qbColour));
     }
-    g.SetVisible(true);
+    grid.SetVisible(true);
 }
 
 void frm_Edit_User::MSFlexGrid_Edit_Click()
 {
-    ui::FlexGrid& g = *MSFlexGrid_Edit;
-    const int row = g.Row();
-    if (!m_filled || row < 1 || row >= g.Rows())
+    ui::FlexGrid& grid = *MSFlexGrid_Edit;
+    const int row = grid.Row();
+    if (!m_filled || row < 1 || row >= grid.Rows())
         return;
     Mnu_delete->setEnabled(true);
     Mnu_Update->setEnabled(true);
@@ -267,13 +254,13 @@ void frm_Edit_User::MSFlexGrid_Edit_Click()
     m_selectedRow = row;
     paintRow(m_previousRow, kWhite);
     paintRow(row, kGray);
-    g.SetRow(row);
+    grid.SetRow(row);
     clearEdits();
-    lbr_Key->setText(g.TextMatrix(row, 1));
+    lbr_Key->setText(grid.TextMatrix(row, 1));
     for (int i = kFirstEdit; i <= 8; ++i)
-        tbxEdit[size_t(i)]->setText(g.TextMatrix(row, i + 1));
-    cmb_Section->setEditText(g.TextMatrix(row, 2));
-    cmb_Division->setEditText(g.TextMatrix(row, 3));
+        tbxEdit[size_t(i)]->setText(grid.TextMatrix(row, i + 1));
+    cmb_Section->setEditText(grid.TextMatrix(row, 2));
+    cmb_Division->setEditText(grid.TextMatrix(row, 3));
     tbx_Section_Code->setText(m_rowCodes[size_t(row)].first);
     tbx_Division_Code->setText(m_rowCodes[size_t(row)].second);
 }
@@ -410,18 +397,18 @@ void frm_Edit_User::Mnu_Delete_Click()
 
 void frm_Edit_User::Mnu_Section_Click()
 {
-    Mdl_gData::CurrentTableCaption = QStringLiteral("部");
-    Mdl_gData::CurrentTableName = QStringLiteral("tbl_Section");
-    Mdl_gData::CurrentTableIndex = 1;
-    frm_Edit_Table::OpenModal();
+    Mdl_gData::g.CurrentTableCaption = QStringLiteral("部");
+    Mdl_gData::g.CurrentTableName = QStringLiteral("tbl_Section");
+    Mdl_gData::g.CurrentTableIndex = 1;
+    frm_Edit_Table::Instance().Show(ui::vbModal);
 }
 
 void frm_Edit_User::Mnu_Division_Click()
 {
-    Mdl_gData::CurrentTableCaption = QStringLiteral("課");
-    Mdl_gData::CurrentTableName = QStringLiteral("tbl_Division");
-    Mdl_gData::CurrentTableIndex = 2;
-    frm_Edit_Table::OpenModal();
+    Mdl_gData::g.CurrentTableCaption = QStringLiteral("課");
+    Mdl_gData::g.CurrentTableName = QStringLiteral("tbl_Division");
+    Mdl_gData::g.CurrentTableIndex = 2;
+    frm_Edit_Table::Instance().Show(ui::vbModal);
 }
 
 void frm_Edit_User::Mnu_Close_Click() { Unload(); }

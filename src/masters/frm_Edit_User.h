@@ -27,13 +27,11 @@ class FlexGrid;
 //
 // Modal, resizable, opening over the main window (its size and place from the main window's
 // globals); the grid takes the width and the height above the edit fields. A failing statement of the grid fill shows StandardErrorBox; the others end the run.
-class frm_Edit_User : public ui::Form {
+class frm_Edit_User : public ui::SingleForm<frm_Edit_User> {
     Q_OBJECT
 
 public:
     frm_Edit_User();
-
-    static frm_Edit_User& Instance();
 
     // controls
     QMenuBar* MenuBar;

@@ -2,7 +2,9 @@
 
 #include "platform/ui/Twips.h"
 
+#include <QHash>
 #include <QLabel>
+#include <QPointer>
 #include <QVBoxLayout>
 
 PlaceholderForm::PlaceholderForm(const QString& name)
@@ -14,4 +16,15 @@ PlaceholderForm::PlaceholderForm(const QString& name)
     note->setAlignment(Qt::AlignCenter);
     layout->addWidget(note);
     resize(ui::TwipsToPixels(6000), ui::TwipsToPixels(3000));
+}
+
+PlaceholderForm& PlaceholderForm::Instance(const char* name)
+{
+    static QHash<QString, QPointer<PlaceholderForm>> forms;
+    QPointer<PlaceholderForm>& form = forms[QString::fromUtf8(name)];
+    if (!form || form->IsUnloaded()) {
+        form = new PlaceholderForm(QString::fromUtf8(name));
+        form->Load();
+    }
+    return *form;
 }

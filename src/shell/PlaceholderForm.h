@@ -10,4 +10,8 @@ class PlaceholderForm : public ui::Form {
 
 public:
     explicit PlaceholderForm(const QString& name);
+
+    // The one placeholder of that name, created and loaded on first use, like the form it
+    // stands for.
+    static PlaceholderForm& Instance(const char* name);
 };

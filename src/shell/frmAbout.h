@@ -7,7 +7,7 @@ class QPushButton;
 
 // The About box: the program's title, its version and a link to the folder where the ledger and
 // the settings file lie; OK closes it. It changes nothing.
-class frmAbout : public ui::Form {
+class frmAbout : public ui::SingleForm<frmAbout> {
     Q_OBJECT
 
 public:

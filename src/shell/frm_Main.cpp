@@ -3,10 +3,14 @@
 #include "assetlist/ListCommands.h"
 #include "assetlist/ListExport.h"
 #include "assetlist/ListQuery.h"
+#include "assetlist/frm_SelectView.h"
 #include "assetlist/MainList.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "foundation/mdl_ini.h"
+#include "intake/frm_Open.h"
+#include "masters/frm_Edit_Table.h"
+#include "masters/frm_Edit_User.h"
 #include "platform/app/App.h"
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
@@ -16,7 +20,7 @@
 #include "platform/ui/StatusBar.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
-#include "shell/ShellWindows.h"
+#include "shell/PlaceholderForm.h"
 #include "shell/frmAbout.h"
 
 #include <QAction>
@@ -30,9 +34,6 @@ using Mdl_Access_mdb::StandardErrorBox;
 
 namespace {
 
-// The main window whose status panel receives the connection texts.
-frm_Main* g_statusOwner = nullptr;
-
 // Design place of the grid inside the window's client area, in twips; its size follows the
 // window (Form_Resize).
 const int kGridLeft = 120;
@@ -44,11 +45,6 @@ const int kDesignWidth = 14835;
 const int kDesignHeight = 10530;
 const int kDesignTop = 50;
 const int kDesignLeft = 50;
-
-QString padded(const char* caption, int blanks, QChar blank)
-{
-    return ui::PaddedCaption(QString::fromUtf8(caption), blanks, blank);
-}
 
 // The picture of ImageList1: a monitor over its stand.
 QIcon ledgerIcon()
@@ -91,87 +87,61 @@ frm_Main::frm_Main()
     SetLeft(kDesignLeft);
 }
 
-frm_Main::~frm_Main()
-{
-    if (g_statusOwner == this) {
-        Mdl_gData::StatusPanelText = nullptr;
-        g_statusOwner = nullptr;
-    }
-}
+frm_Main::~frm_Main() = default;
 
 void frm_Main::buildMenus()
 {
-    MenuBar = ui::AddMenuBar(this);
-    auto menu = [this](const char* name, const QString& caption) { return ui::AddMenu(MenuBar, name, caption); };
-    auto item = [](QMenu* m, const char* name, const char* caption, const QKeySequence& shortcut = {}) {
-        return ui::AddMenuItem(m, name, QString::fromUtf8(caption), shortcut);
-    };
-    const auto separator = ui::AddMenuSeparator;
+    using ui::AddMenuItem;
+    using ui::AddMenuSeparator;
+    using ui::PaddedCaption;
+    auto click = [this](void (frm_Main::*handler)()) { return [this, handler] { (this->*handler)(); }; };
     // the top-level captions are widened with ideographic blanks, "新規作成" with ordinary ones
-    const QChar ideographic(0x3000), blank(QLatin1Char(' '));
+    MenuBar = ui::AddMenuBar(this);
 
-    Mnu_Files = menu("Mnu_Files", padded("ファイル", 7, ideographic));
-    Mnu_Read_Sondex = item(Mnu_Files, "Mnu_Read_Sondex", "Sondexデータ読込", QKeySequence(Qt::CTRL | Qt::Key_O));
-    separator(Mnu_Files, "sepalate01");
-    Mnu_View_INPORT = item(Mnu_Files, "Mnu_View_INPORT", "インポート");
-    Mnu_View_EXPORT = item(Mnu_Files, "Mnu_View_EXPORT", "エクスポート");
-    separator(Mnu_Files, "sepalate02");
-    Mnu_Program_Quit = item(Mnu_Files, "Mnu_Program_Quit", "終了する", QKeySequence(Qt::CTRL | Qt::Key_Q));
+    Mnu_Files = ui::AddMenu(MenuBar, "Mnu_Files", PaddedCaption("ファイル", 7));
+    Mnu_Read_Sondex = AddMenuItem(Mnu_Files, "Mnu_Read_Sondex", "Sondexデータ読込", click(&frm_Main::Mnu_Read_Sondex_Click),
+                                  QKeySequence(Qt::CTRL | Qt::Key_O));
+    AddMenuSeparator(Mnu_Files, "sepalate01");
+    Mnu_View_INPORT = AddMenuItem(Mnu_Files, "Mnu_View_INPORT", "インポート", click(&frm_Main::Mnu_View_INPORT_Click));
+    Mnu_View_EXPORT = AddMenuItem(Mnu_Files, "Mnu_View_EXPORT", "エクスポート", click(&frm_Main::Mnu_View_EXPORT_Click));
+    AddMenuSeparator(Mnu_Files, "sepalate02");
+    Mnu_Program_Quit = AddMenuItem(Mnu_Files, "Mnu_Program_Quit", "終了する", click(&frm_Main::Mnu_Program_Quit_Click),
+                                   QKeySequence(Qt::CTRL | Qt::Key_Q));
 
-    Mnu_Edit = menu("Mnu_Edit", padded("編集", 8, ideographic));
-    Mnu_AddNew = item(Mnu_Edit, "Mnu_AddNew", "", QKeySequence(Qt::CTRL | Qt::Key_N));
-    Mnu_AddNew->setText(padded("新規作成", 6, blank));
-    separator(Mnu_Edit, "sepalate04");
-    Mnu_Search = item(Mnu_Edit, "Mnu_Search", "検索", QKeySequence(Qt::CTRL | Qt::Key_F));
-    separator(Mnu_Edit, "sepalate05");
-    Mnu_Delete = item(Mnu_Edit, "Mnu_Delete", "削除");
-    Mnu_ReplacePC = item(Mnu_Edit, "Mnu_ReplacePC", "廃棄登録");
+    Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", PaddedCaption("編集", 8));
+    Mnu_AddNew = AddMenuItem(Mnu_Edit, "Mnu_AddNew", PaddedCaption("新規作成", 6, u' '), click(&frm_Main::Mnu_AddNew_Click),
+                             QKeySequence(Qt::CTRL | Qt::Key_N));
+    AddMenuSeparator(Mnu_Edit, "sepalate04");
+    Mnu_Search = AddMenuItem(Mnu_Edit, "Mnu_Search", "検索", click(&frm_Main::Mnu_Search_Click), QKeySequence(Qt::CTRL | Qt::Key_F));
+    AddMenuSeparator(Mnu_Edit, "sepalate05");
+    Mnu_Delete = AddMenuItem(Mnu_Edit, "Mnu_Delete", "削除", click(&frm_Main::Mnu_Delete_Click));
+    Mnu_ReplacePC = AddMenuItem(Mnu_Edit, "Mnu_ReplacePC", "廃棄登録", click(&frm_Main::Mnu_ReplacePC_Click));
 
-    Mnu_Managements = menu("Mnu_Managements", padded("管理", 9, ideographic));
-    Mnu_Edit_Users = item(Mnu_Managements, "Mnu_Edit_Users", "ユーザ");
+    Mnu_Managements = ui::AddMenu(MenuBar, "Mnu_Managements", PaddedCaption("管理", 9));
+    Mnu_Edit_Users = AddMenuItem(Mnu_Managements, "Mnu_Edit_Users", "ユーザ", click(&frm_Main::Mnu_Edit_Users_Click));
     const char* const tableCaptions[] = {"部署", "課", "設置場所", "メーカー", "モデル"};
     for (int i = 1; i <= 5; ++i) {
-        Mnu_Edit_Table[size_t(i)] = item(Mnu_Managements, "Mnu_Edit_Table", tableCaptions[i - 1]);
-        Mnu_Edit_Table[size_t(i)]->setObjectName(QStringLiteral("Mnu_Edit_Table_%1").arg(i));
+        QAction* a = AddMenuItem(Mnu_Managements, "", tableCaptions[i - 1], [this, i] { Mnu_Edit_Table_Click(i); });
+        ui::SetArrayName(a, "Mnu_Edit_Table", i);
+        Mnu_Edit_Table[size_t(i)] = a;
     }
-    separator(Mnu_Managements, "separator07");
-    Mnu_Edit_profile = item(Mnu_Managements, "Mnu_Edit_profile", "PCのプロファイル");
-    Mnu_Edit_License = item(Mnu_Managements, "Mnu_Edit_License", "ライセンス");
-    Mnu_Mail_Manegement = item(Mnu_Managements, "Mnu_Mail_Manegement", "メールアドレス");
-    Mnu_Network_Manegement = item(Mnu_Managements, "Mnu_Network_Manegement", "ネットワーク");
-    separator(Mnu_Managements, "sepalate03");
-    View_ApplicationList = item(Mnu_Managements, "View_ApplicationList", "アプリケーション一覧");
-    Mnu_PrinterList = item(Mnu_Managements, "Mnu_PrinterList", "プリンタ一覧");
+    AddMenuSeparator(Mnu_Managements, "separator07");
+    Mnu_Edit_profile = AddMenuItem(Mnu_Managements, "Mnu_Edit_profile", "PCのプロファイル", click(&frm_Main::Mnu_Edit_profile_Click));
+    Mnu_Edit_License = AddMenuItem(Mnu_Managements, "Mnu_Edit_License", "ライセンス", click(&frm_Main::Mnu_Edit_License_Click));
+    Mnu_Mail_Manegement =
+        AddMenuItem(Mnu_Managements, "Mnu_Mail_Manegement", "メールアドレス", click(&frm_Main::Mnu_Mail_Manegement_Click));
+    Mnu_Network_Manegement =
+        AddMenuItem(Mnu_Managements, "Mnu_Network_Manegement", "ネットワーク", click(&frm_Main::Mnu_Network_Manegement_Click));
+    AddMenuSeparator(Mnu_Managements, "sepalate03");
+    View_ApplicationList =
+        AddMenuItem(Mnu_Managements, "View_ApplicationList", "アプリケーション一覧", click(&frm_Main::View_ApplicationList_Click));
+    Mnu_PrinterList = AddMenuItem(Mnu_Managements, "Mnu_PrinterList", "プリンタ一覧", click(&frm_Main::Mnu_PrinterList_Click));
 
-    Mnu_View = menu("Mnu_View", padded("表示", 9, ideographic));
-    Mnu_About = item(Mnu_View, "Mnu_About", "アバウト");
-    separator(Mnu_View, "sepalate06");
-    Mnu_ViewUpdate = item(Mnu_View, "Mnu_ViewUpdate", "画面更新");
-    Mnu_View_Select = item(Mnu_View, "Mnu_View_Select", "表示条件変更");
-
-    auto on = [this](QAction* a, void (frm_Main::*handler)()) {
-        ui::Connect(a, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
-    };
-    on(Mnu_Read_Sondex, &frm_Main::Mnu_Read_Sondex_Click);
-    on(Mnu_View_INPORT, &frm_Main::Mnu_View_INPORT_Click);
-    on(Mnu_View_EXPORT, &frm_Main::Mnu_View_EXPORT_Click);
-    on(Mnu_Program_Quit, &frm_Main::Mnu_Program_Quit_Click);
-    on(Mnu_AddNew, &frm_Main::Mnu_AddNew_Click);
-    on(Mnu_Search, &frm_Main::Mnu_Search_Click);
-    on(Mnu_Delete, &frm_Main::Mnu_Delete_Click);
-    on(Mnu_ReplacePC, &frm_Main::Mnu_ReplacePC_Click);
-    on(Mnu_Edit_Users, &frm_Main::Mnu_Edit_Users_Click);
-    for (int i = 1; i <= 5; ++i)
-        ui::Connect(Mnu_Edit_Table[size_t(i)], &QAction::triggered, this, [this, i] { Mnu_Edit_Table_Click(i); });
-    on(Mnu_Edit_profile, &frm_Main::Mnu_Edit_profile_Click);
-    on(Mnu_Edit_License, &frm_Main::Mnu_Edit_License_Click);
-    on(Mnu_Mail_Manegement, &frm_Main::Mnu_Mail_Manegement_Click);
-    on(Mnu_Network_Manegement, &frm_Main::Mnu_Network_Manegement_Click);
-    on(View_ApplicationList, &frm_Main::View_ApplicationList_Click);
-    on(Mnu_PrinterList, &frm_Main::Mnu_PrinterList_Click);
-    on(Mnu_About, &frm_Main::Mnu_About_Click);
-    on(Mnu_ViewUpdate, &frm_Main::Mnu_ViewUpdate_Click);
-    on(Mnu_View_Select, &frm_Main::Mnu_View_Select_Click);
+    Mnu_View = ui::AddMenu(MenuBar, "Mnu_View", PaddedCaption("表示", 9));
+    Mnu_About = AddMenuItem(Mnu_View, "Mnu_About", "アバウト", click(&frm_Main::Mnu_About_Click));
+    AddMenuSeparator(Mnu_View, "sepalate06");
+    Mnu_ViewUpdate = AddMenuItem(Mnu_View, "Mnu_ViewUpdate", "画面更新", click(&frm_Main::Mnu_ViewUpdate_Click));
+    Mnu_View_Select = AddMenuItem(Mnu_View, "Mnu_View_Select", "表示条件変更", click(&frm_Main::Mnu_View_Select_Click));
 }
 
 void frm_Main::buildClientArea()
@@ -212,8 +182,17 @@ void frm_Main::Form_Load()
             app::End(0);
             return;
         }
-        g_statusOwner = this;
-        StatusPanelText = [this](const QString& text) { StatusBar1->SetPanelText(1, text); };
+        // the hooks through which the windows of the subsystems reach this one; they fall silent
+        // when this window is gone
+        const QPointer<frm_Main> self(this);
+        g.StatusPanelText = [self](const QString& text) {
+            if (self)
+                self->StatusBar1->SetPanelText(1, text);
+        };
+        g.RefillMainList = [self] {
+            if (self && self->m_list)
+                self->m_list->fnc_View_PClist();
+        };
         m_list = std::make_unique<MainList>(*MSFlexGrid_Main);
         m_list->SetMenuEnabled = [this](MainList::MenuItem item, bool on) {
             switch (item) {
@@ -228,11 +207,10 @@ void frm_Main::Form_Load()
             setWindowIcon(ImageList1.first());
         FillCodeTables();
 
-        const QString section = IniRead(QStringLiteral("Main"), QStringLiteral("SectionNumber"));
-        SectionNumber = section.isEmpty() ? std::int16_t(0) : vb::CInt(section);
+        g.SectionNumber = SavedSectionNumber();
         for (int i = 0; i <= 7; ++i) {
             const QString name = IniRead(QStringLiteral("Main"), QStringLiteral("SectionName") + QString::number(i));
-            ViewNames[i] = name.isEmpty() ? QStringLiteral(" ") : name;
+            g.ViewNames[i] = name.isEmpty() ? QStringLiteral(" ") : name;
         }
 
         // Without the ledger the window stands empty, its status panel saying why.
@@ -243,20 +221,17 @@ void frm_Main::Form_Load()
             const QString value = IniRead(QStringLiteral("Main"), QString::fromUtf8(key));
             return value.isEmpty() ? fallback : vb::CLng(value);
         };
-        MainFormWidth = geometry("FormSizeWidth", kDesignWidth);
-        MainFormHeight = geometry("FormSizeHight", kDesignHeight);
-        MainFormTop = geometry("FormTop", kDesignTop);
-        MainFormLeft = geometry("FormLeft", kDesignLeft);
-        SetWidth(MainFormWidth);
-        SetHeight(MainFormHeight);
-        SetTop(MainFormTop);
-        SetLeft(MainFormLeft);
+        g.MainFormWidth = geometry("FormSizeWidth", kDesignWidth);
+        g.MainFormHeight = geometry("FormSizeHight", kDesignHeight);
+        g.MainFormTop = geometry("FormTop", kDesignTop);
+        g.MainFormLeft = geometry("FormLeft", kDesignLeft);
+        SetWidth(g.MainFormWidth);
+        SetHeight(g.MainFormHeight);
+        SetTop(g.MainFormTop);
+        SetLeft(g.MainFormLeft);
 
-        mdl_ini::LoadViewSettings();
-        m_list->FGridViewSelect_ini();
         m_list->CurrentMainKey = 0;
-        gSetSQLVal();
-        if (m_list->fnc_View_PClist())
+        if (m_list->ShowView() == ui::FillResult::Rows)
             m_list->MSFlexGrid_Main_ini();
 
         Mnu_Edit_profile->setEnabled(false);
@@ -282,13 +257,7 @@ void frm_Main::Form_Resize()
     }
 }
 
-void frm_Main::Form_LostFocus()
-{
-    if (Top() > 0)
-        Mdl_gData::MainFormTop = Top();
-    if (Left() > 0)
-        Mdl_gData::MainFormLeft = Left();
-}
+void frm_Main::Form_LostFocus() { rememberGeometry(false); }
 
 void frm_Main::Form_QueryUnload(int&, int unloadMode)
 {
@@ -316,18 +285,11 @@ void frm_Main::Mnu_Program_Quit_Click()
     using namespace Mdl_gData;
     using mdl_ini::IniWrite;
     try {
-        if (Top() > 0)
-            MainFormTop = Top();
-        if (Left() > 0)
-            MainFormLeft = Left();
-        if (Width() > 0)
-            MainFormWidth = Width();
-        if (Height() > 0)
-            MainFormHeight = Height();
-        IniWrite(QStringLiteral("Main"), QStringLiteral("FormTop"), QString::number(MainFormTop));
-        IniWrite(QStringLiteral("Main"), QStringLiteral("FormLeft"), QString::number(MainFormLeft));
-        IniWrite(QStringLiteral("Main"), QStringLiteral("FormSizeWidth"), QString::number(MainFormWidth));
-        IniWrite(QStringLiteral("Main"), QStringLiteral("FormSizeHight"), QString::number(MainFormHeight));
+        rememberGeometry(true);
+        IniWrite(QStringLiteral("Main"), QStringLiteral("FormTop"), QString::number(g.MainFormTop));
+        IniWrite(QStringLiteral("Main"), QStringLiteral("FormLeft"), QString::number(g.MainFormLeft));
+        IniWrite(QStringLiteral("Main"), QStringLiteral("FormSizeWidth"), QString::number(g.MainFormWidth));
+        IniWrite(QStringLiteral("Main"), QStringLiteral("FormSizeHight"), QString::number(g.MainFormHeight));
         Mdl_Access_mdb::DisconnectDatabase();
         // The connection is already closed, so the closing question does not unload the other
         // windows; the program ends with this window (main) and they go with it.
@@ -337,117 +299,101 @@ void frm_Main::Mnu_Program_Quit_Click()
     }
 }
 
-void frm_Main::storeGeometryForOpenedWindow()
+void frm_Main::rememberGeometry(bool withSize)
 {
-    using namespace Mdl_gData;
-    if (Width() > 0)
-        MainFormWidth = Width();
-    if (Height() > 0)
-        MainFormHeight = Height();
+    using Mdl_gData::g;
     if (Top() > 0)
-        MainFormTop = Top();
+        g.MainFormTop = Top();
     if (Left() > 0)
-        MainFormLeft = Left();
+        g.MainFormLeft = Left();
+    if (!withSize)
+        return;
+    if (Width() > 0)
+        g.MainFormWidth = Width();
+    if (Height() > 0)
+        g.MainFormHeight = Height();
 }
 
-void frm_Main::Mnu_Read_Sondex_Click() { ShellWindows::frm_Open().Show(ui::vbModal); }
+void frm_Main::Mnu_Read_Sondex_Click() { frm_Open::Instance().Show(ui::vbModal); }
 
 void frm_Main::Mnu_View_INPORT_Click()
 {
-    storeGeometryForOpenedWindow();
-    ShellWindows::frm_Inport().Show(ui::vbModeless);
+    rememberGeometry(true);
+    PlaceholderForm::Instance("frm_Inport").Show(ui::vbModeless);
 }
 
 // The list commands work on the list, which exists once the load has passed the previous-instance
 // test; the export writes the grid as it is shown.
 void frm_Main::Mnu_View_EXPORT_Click() { ListExport::ExportGrid(*MSFlexGrid_Main, QStringLiteral("CSV書き出し")); }
 
-void frm_Main::Mnu_AddNew_Click()
+void frm_Main::runListCommand(void (*command)(MainList&))
 {
     if (m_list)
-        ListCommands::Mnu_AddNew(*m_list);
+        command(*m_list);
 }
 
-void frm_Main::Mnu_Search_Click()
-{
-    if (m_list)
-        ListCommands::Mnu_Search(*m_list);
-}
-
-void frm_Main::Mnu_Delete_Click()
-{
-    if (m_list)
-        ListCommands::Mnu_Delete(*m_list);
-}
-
-void frm_Main::Mnu_ReplacePC_Click()
-{
-    if (m_list)
-        ListCommands::Mnu_ReplacePC(*m_list);
-}
-
-void frm_Main::Mnu_ViewUpdate_Click()
-{
-    if (m_list)
-        ListCommands::Mnu_ViewUpdate(*m_list);
-}
+void frm_Main::Mnu_AddNew_Click() { runListCommand(ListCommands::Mnu_AddNew); }
+void frm_Main::Mnu_Search_Click() { runListCommand(ListCommands::Mnu_Search); }
+void frm_Main::Mnu_Delete_Click() { runListCommand(ListCommands::Mnu_Delete); }
+void frm_Main::Mnu_ReplacePC_Click() { runListCommand(ListCommands::Mnu_ReplacePC); }
+void frm_Main::Mnu_ViewUpdate_Click() { runListCommand(ListCommands::Mnu_ViewUpdate); }
 
 void frm_Main::Mnu_Edit_Users_Click()
 {
-    storeGeometryForOpenedWindow();
-    ShellWindows::frm_Edit_User().Show(ui::vbModal);
+    rememberGeometry(true);
+    frm_Edit_User::Instance().Show(ui::vbModal);
 }
 
 void frm_Main::Mnu_Edit_Table_Click(int index)
 {
     using namespace Mdl_gData;
-    CurrentTableCaption = CodeTables[index].caption;
-    CurrentTableName = CodeTables[index].table;
-    CurrentTableIndex = std::int16_t(index);
-    ShellWindows::frm_Edit_Table().Show(ui::vbModal);
+    g.CurrentTableCaption = g.CodeTables[index].caption;
+    g.CurrentTableName = g.CodeTables[index].table;
+    g.CurrentTableIndex = std::int16_t(index);
+    frm_Edit_Table::Instance().Show(ui::vbModal);
 }
 
 void frm_Main::Mnu_Edit_profile_Click()
 {
     if (!m_list)
         return;
-    Mdl_gData::SelectedMainKey = m_list->CurrentMainKey;
-    Mdl_gData::SelectedGridRow = m_list->CurrentRow;
+    Mdl_gData::g.SelectedMainKey = m_list->CurrentMainKey;
+    Mdl_gData::g.SelectedGridRow = m_list->CurrentRow;
     if (m_list->CurrentMainKey > 0) {
-        ShellWindows::frm_Edit_Computer().Show(ui::vbModeless);
+        PlaceholderForm::Instance("frm_Edit_Computer").Show(ui::vbModeless);
         Mnu_Edit_profile->setEnabled(false);
     }
 }
 
 void frm_Main::Mnu_Edit_License_Click()
 {
-    storeGeometryForOpenedWindow();
-    ShellWindows::frm_Edit_License().Show(ui::vbModeless);
+    rememberGeometry(true);
+    PlaceholderForm::Instance("frm_Edit_License").Show(ui::vbModeless);
 }
 
 void frm_Main::Mnu_Mail_Manegement_Click()
 {
-    storeGeometryForOpenedWindow();
-    ShellWindows::frm_Edit_Mail().Show(ui::vbModal);
+    rememberGeometry(true);
+    PlaceholderForm::Instance("frm_Edit_Mail").Show(ui::vbModal);
 }
 
 void frm_Main::Mnu_Network_Manegement_Click()
 {
-    storeGeometryForOpenedWindow();
-    ShellWindows::frm_Edit_Network().Show(ui::vbModeless);
+    rememberGeometry(true);
+    PlaceholderForm::Instance("frm_Edit_Network").Show(ui::vbModeless);
 }
 
-void frm_Main::View_ApplicationList_Click() { ShellWindows::frm_List_Application().Show(ui::vbModeless); }
+void frm_Main::View_ApplicationList_Click() { PlaceholderForm::Instance("frm_List_Application").Show(ui::vbModeless); }
 
 void frm_Main::Mnu_PrinterList_Click()
 {
-    storeGeometryForOpenedWindow();
-    ShellWindows::frm_List_Printer().Show(ui::vbModeless);
+    rememberGeometry(true);
+    PlaceholderForm::Instance("frm_List_Printer").Show(ui::vbModeless);
 }
 
-void frm_Main::Mnu_About_Click() { ShellWindows::About().Show(ui::vbModal); }
+void frm_Main::Mnu_About_Click() { frmAbout::Instance().Show(ui::vbModal); }
 
-void frm_Main::Mnu_View_Select_Click() { ShellWindows::frm_SelectView().Show(ui::vbModal); }
+void frm_Main::Mnu_View_Select_Click() { frm_SelectView::Instance().Show(ui::vbModal); }
 
 void frm_Main::MSFlexGrid_Main_Click()
 {

@@ -24,7 +24,7 @@ class StatusBar;
 // settings, the one connection, the list of the current view), the end (Mnu_Program_Quit saves
 // size and place and closes the connection; the close box only unloads), and the menu tree
 // through which every other window is reached. The list itself is MainList over MSFlexGrid_Main.
-class frm_Main : public ui::Form {
+class frm_Main : public ui::SingleForm<frm_Main> {
     Q_OBJECT
 
 public:
@@ -97,10 +97,13 @@ protected:
 private:
     void buildMenus();
     void buildClientArea();
-    // Keeps the main window's size and place in the globals that the windows opened over it read.
-    void storeGeometryForOpenedWindow();
+    // Keeps the main window's place (and size) in the globals that the windows opened over it
+    // read and that the quit writes to DB.ini; a value of 0 or less is not kept.
+    void rememberGeometry(bool withSize);
     // Unloads every loaded window, one by one, in the order they were loaded.
     void unloadAllForms();
+    // A list command on the list, once the load has made it.
+    void runListCommand(void (*command)(MainList&));
 
     app::InstanceLock m_instance;
     std::unique_ptr<MainList> m_list;

@@ -37,6 +37,8 @@ protected:
         grid->QWidget::resize(900, 500);
         grid->show();
         list = std::make_unique<MainList>(*grid);
+        // the hook through which the view window refills the main list
+        Mdl_gData::g.RefillMainList = [this] { list->fnc_View_PClist(); };
     }
     void TearDown() override
     {
@@ -110,10 +112,7 @@ protected:
     // and no selection afterwards.
     bool loadList()
     {
-        mdl_ini::LoadViewSettings();
-        list->FGridViewSelect_ini();
-        gSetSQLVal();
-        const bool filled = list->fnc_View_PClist();
+        const bool filled = list->ShowView() == ui::FillResult::Rows;
         if (filled)
             list->MSFlexGrid_Main_ini();
         return filled;

@@ -104,7 +104,7 @@ protected:
     void windowLoad()
     {
         const QString section = mdl_ini::IniRead(QStringLiteral("Main"), QStringLiteral("SectionNumber"));
-        SectionNumber = section.isEmpty() ? std::int16_t(0) : vb::CInt(section);
+        g.SectionNumber = section.isEmpty() ? std::int16_t(0) : vb::CInt(section);
         loadList();
     }
     // What the console dialogs print for the last message box the window showed.
@@ -143,7 +143,7 @@ TEST_F(ExportListTest, TheCommandWritesEachViewAsTheWindowsExportDoes)
     dialogs.answerFile(out.file(QStringLiteral("window1")));
     ListExport::ExportGrid(*grid, QStringLiteral("CSV書き出し"));
     EXPECT_EQ(FileBytes(out.file(QStringLiteral("window1.csv"))), view1);
-    SectionNumber = 2;
+    g.SectionNumber = 2;
     loadList();
     dialogs.answerFile(out.file(QStringLiteral("window2.csv")));
     ListExport::ExportGrid(*grid, QStringLiteral("CSV書き出し"));
@@ -250,7 +250,7 @@ TEST_F(ExportListTest, WriteGridWritesTheShownTextsAndSplitsAThousandsComma)
 {
     computer(5, 0, 0, QStringLiteral("Computer_Name = 'PC-A', Memory_Full = 1044612, LAN_Connection = 1"));
     computer(6, 0, 0, QStringLiteral("Computer_Name = 'PC-B', Memory_Full = 1000"));
-    SectionNumber = 1;
+    g.SectionNumber = 1;
     writeColumns(1, {8, 28, 45});
     ASSERT_TRUE(loadList());
     ListExport::WriteGrid(*grid, out.file(QStringLiteral("list.csv")));

@@ -38,7 +38,7 @@ protected:
         AssetListFixture::SetUp();
         list->FGridViewSelect_ini();
         for (int i = 0; i <= 7; ++i)
-            ViewNames[i] = QStringLiteral(" ");
+            g.ViewNames[i] = QStringLiteral(" ");
         // three installed computers and a retired one, all on the code-0 masters
         computer(1, 0, 0, QStringLiteral("Computer_Name = 'PC-A', Workgroup = 'W3'"));
         computer(2, 0, 0, QStringLiteral("Computer_Name = 'PC-C', Workgroup = 'W1'"));
@@ -154,9 +154,9 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAtItsFixedSize)
     writeColumns(2, {3, 8, 76});
     writeView(2, {{u("OptDel"), u("1")}});
     writeSortKeys(2, {{"Computer_Name", "コンピュータ名", "DESC"}, {"ipaddress", "IPアドレス", "ASC"}});
-    SectionNumber = 2;
-    ViewNames[0] = u("全体");
-    ViewNames[2] = u("撤去分");
+    g.SectionNumber = 2;
+    g.ViewNames[0] = u("全体");
+    g.ViewNames[2] = u("撤去分");
     mdl_ini::LoadViewSettings();
 
     frm_SelectView& f = open();
@@ -171,7 +171,7 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAtItsFixedSize)
     // the 76 columns a view can show, each with its number
     ASSERT_EQ(f.Lst_Select->count(), 76);
     for (int i = 1; i <= 76; ++i) {
-        EXPECT_EQ(f.Lst_Select->item(i - 1)->text(), ColumnTable[i].caption) << i;
+        EXPECT_EQ(f.Lst_Select->item(i - 1)->text(), g.ColumnTable[i].caption) << i;
         EXPECT_EQ(f.Lst_Select->item(i - 1)->data(Qt::UserRole).toInt(), i);
     }
     EXPECT_EQ(selectedColumns(), (std::set<int>{3, 8, 76}));
@@ -196,7 +196,7 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
     // an earlier, longer view with a key nobody writes any more
     writeColumns(0, {1, 2, 3, 4, 5});
     writeView(0, {{u("Stale"), u("x")}});
-    ViewNames[0] = u("標準");
+    g.ViewNames[0] = u("標準");
     ASSERT_TRUE(loadList());
     ASSERT_EQ(grid->Cols(), 7);
     list->CurrentMainKey = 5;   // what the main window had selected before
@@ -254,15 +254,15 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->Opt_ASC_DESC[5]->click();
     form->Mnu_Update->trigger();
 
-    EXPECT_EQ(SelectNumber, 2);
+    EXPECT_EQ(g.SelectNumber, 2);
     for (int i = 0; i <= 2; ++i) {
         const char* const want[3][3] = {
             {"Computer_Name", "コンピュータ名", "DESC"}, {"Workgroup", "ワークグループ", "DESC"}, {"", " ", "DESC"}};
-        EXPECT_EQ(SortKeyName[i], u(want[i][0])) << i;
-        EXPECT_EQ(SortKeyCaption[i], u(want[i][1])) << i;
-        EXPECT_EQ(SortKeyDirection[i], u(want[i][2])) << i;
+        EXPECT_EQ(g.SortKeyName[i], u(want[i][0])) << i;
+        EXPECT_EQ(g.SortKeyCaption[i], u(want[i][1])) << i;
+        EXPECT_EQ(g.SortKeyDirection[i], u(want[i][2])) << i;
     }
-    EXPECT_TRUE(ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << ListSql.toStdString();
+    EXPECT_TRUE(g.ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << g.ListSql.toStdString();
     EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));
     EXPECT_EQ(listedKeys(), us({"2", "3", "1"}));
@@ -273,8 +273,8 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->Mnu_Update->trigger();
     form->OptDel[0]->click();
     form->Mnu_Update->trigger();
-    EXPECT_EQ(SelectNumber, 3);
-    EXPECT_EQ(SortKeyName[2], u("UserPassword"));
+    EXPECT_EQ(g.SelectNumber, 3);
+    EXPECT_EQ(g.SortKeyName[2], u("UserPassword"));
     EXPECT_TRUE(iniSection(u("0")).contains(u("KeyName2=UserPassword")));
 }
 
@@ -282,8 +282,8 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
 {
     writeColumns(0, {8});
     writeView(1, {{u("OptDel"), u("1")}, {u("MSFlexGrit_SelectNum"), u("0")}});
-    ViewNames[0] = u("標準");
-    ViewNames[1] = u("撤去");
+    g.ViewNames[0] = u("標準");
+    g.ViewNames[1] = u("撤去");
     ASSERT_TRUE(loadList());
     ASSERT_EQ(listedKeys().size(), 3);
 
@@ -292,7 +292,7 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
     ASSERT_TRUE(form->Mnu_Update->isEnabled());
     form->Mnu_ViewSelect[1]->trigger();
 
-    EXPECT_EQ(SectionNumber, 1);
+    EXPECT_EQ(g.SectionNumber, 1);
     // no column chosen: the list has its row numbers and the hidden key only
     EXPECT_EQ(grid->Cols(), 2);
     EXPECT_EQ(listedKeys(), us({"4"})) << "the retired computer";
@@ -318,8 +318,8 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
 
 TEST_F(FrmSelectView, NamingAViewWritesItsNameEvenWhenTheBoxIsCancelled)
 {
-    SectionNumber = 3;
-    ViewNames[3] = u("旧名");
+    g.SectionNumber = 3;
+    g.ViewNames[3] = u("旧名");
     open();
     dialogs.answerInput(u("新しい名前"));
     form->Mnu_SetNameStr->trigger();
@@ -328,7 +328,7 @@ TEST_F(FrmSelectView, NamingAViewWritesItsNameEvenWhenTheBoxIsCancelled)
     EXPECT_EQ(dialogs.calls()[0].kind, ScriptedDialogs::Call::Input);
     EXPECT_EQ(dialogs.calls()[0].prompt, u("項目3に名前をつけてください"));
     EXPECT_EQ(dialogs.calls()[0].title, u("名称変更"));
-    EXPECT_EQ(ViewNames[3], u("新しい名前"));
+    EXPECT_EQ(g.ViewNames[3], u("新しい名前"));
     EXPECT_EQ(form->Mnu_ViewSelect[3]->text(), u("3:新しい名前"));
     EXPECT_EQ(iniSection(u("Main")), us({"SectionName3=新しい名前"}));
     EXPECT_FALSE(form->Mnu_Update->isEnabled()) << "a name is saved at once, not a change of the view";
@@ -336,7 +336,7 @@ TEST_F(FrmSelectView, NamingAViewWritesItsNameEvenWhenTheBoxIsCancelled)
     mdl_ini::IniWrite(u("Main"), u("SectionName3"), std::nullopt);
     dialogs.answerInput(std::nullopt);
     form->Mnu_SetNameStr->trigger();
-    EXPECT_EQ(ViewNames[3], u("新しい名前"));
+    EXPECT_EQ(g.ViewNames[3], u("新しい名前"));
     EXPECT_EQ(iniSection(u("Main")), us({"SectionName3=新しい名前"}));
 }
 

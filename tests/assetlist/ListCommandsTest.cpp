@@ -250,14 +250,14 @@ TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheR
     EXPECT_EQ(menus, (Menus{{MainList::Mnu_ReplacePC, false}}));
 
     // the view of removed computers lists it with its date
-    SectionNumber = 1;
+    g.SectionNumber = 1;
     ASSERT_TRUE(loadList());
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "4", "PC-4", "2005/12/04"}));
     EXPECT_EQ(grid->Rows(), 2);
 
     // The form is all that is checked: a day the month does not have reaches the ledger, which
     // refuses it, and with no handler on the way the failure goes up to the event's dispatcher.
-    SectionNumber = 0;
+    g.SectionNumber = 0;
     ASSERT_TRUE(loadList());
     select(6);
     dialogs.answerInput(QStringLiteral("2005/02/31"));

@@ -1,5 +1,6 @@
 #include "AssetListFixture.h"
 
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/vb/Conversion.h"
 #include "platform/vb/VbError.h"
@@ -41,17 +42,17 @@ TEST_F(ListQuery, StatementTextForEachViewShape)
         {"four keys: neither ORDER BY nor ';'", 0, 4, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 0) ")},
         {"negative count: neither ORDER BY nor ';'", -1, -1, QString()},
     };
-    SortKeyName[0] = QStringLiteral("Location_Name");
-    SortKeyName[1] = QStringLiteral("tbl_Computer_List.Update");
-    SortKeyName[2] = QStringLiteral("Computer_Name");
-    SortKeyDirection[0] = QStringLiteral("ASC");
-    SortKeyDirection[1] = QStringLiteral("DESC");
-    SortKeyDirection[2] = QStringLiteral("ASC");
+    g.SortKeyName[0] = QStringLiteral("Location_Name");
+    g.SortKeyName[1] = QStringLiteral("tbl_Computer_List.Update");
+    g.SortKeyName[2] = QStringLiteral("Computer_Name");
+    g.SortKeyDirection[0] = QStringLiteral("ASC");
+    g.SortKeyDirection[1] = QStringLiteral("DESC");
+    g.SortKeyDirection[2] = QStringLiteral("ASC");
     for (const Case& c : cases) {
-        OptDel = c.optDel;
-        SelectNumber = c.selectNumber;
+        g.OptDel = c.optDel;
+        g.SelectNumber = c.selectNumber;
         gSetSQLVal();
-        EXPECT_EQ(ListSql, kHead + c.tail) << c.name;
+        EXPECT_EQ(g.ListSql, kHead + c.tail) << c.name;
     }
 }
 
@@ -81,7 +82,7 @@ TEST_F(ListQuery, OptDelChoosesInstalledRetiredOrBoth)
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("OptDel"), QStringLiteral("2"));
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4")}));
-    EXPECT_EQ(ListRowCount, 4);
+    EXPECT_EQ(g.ListRowCount, 4);
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
@@ -107,9 +108,8 @@ TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
     // a name the engine does not know fails when the fill opens the statement; the grid is
     // left as it stood
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("KeyName1"), QStringLiteral("Computer_Nmae"));
-    mdl_ini::LoadViewSettings();
-    gSetSQLVal();
-    EXPECT_FALSE(list->fnc_View_PClist());
+    LoadView();
+    EXPECT_EQ(list->fnc_View_PClist(), ui::FillResult::Failed);
     EXPECT_EQ(errorBoxes().size(), 1u);
     EXPECT_TRUE(grid->Visible());
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "3", "支社", "PC-C"}));
@@ -122,7 +122,7 @@ TEST_F(ListQuery, JoinedFieldNamesAnswerAsAdoNamedThem)
              QStringLiteral("\"Update\" = '2005/04/01'"));
     gSetSQLVal();
     db::Recordset rs;
-    rs.Open(ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
+    rs.Open(g.ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
     ASSERT_EQ(rs.RecordCount(), 1);
     EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Pclist.MainKey").Value()), QStringLiteral("1"));
     EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Computer_List.Update").Value()), QStringLiteral("2005/04/01"));

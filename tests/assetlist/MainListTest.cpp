@@ -1,5 +1,6 @@
 #include "AssetListFixture.h"
 
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 
 #include <QCoreApplication>
@@ -32,7 +33,7 @@ protected:
         computer(7, 1, 1, QStringLiteral("Computer_Name = 'PC-0'"));
 
         IniWrite(QStringLiteral("Main"), QStringLiteral("SectionNumber"), QStringLiteral("2"));
-        SectionNumber = 2;
+        g.SectionNumber = 2;
         writeColumns(2, {8, 4, 10, 26, 28, 30, 31, 39, 45, 65, 70});
         writeView(2, {{QStringLiteral("SelectNumber"), QStringLiteral("1")},
                       {QStringLiteral("KeyName0"), QStringLiteral("Computer_Name")},
@@ -69,31 +70,31 @@ TEST_F(MainListTest, ColumnModelNamesFieldsTheListQueryAnswersTo)
 {
     list->FGridViewSelect_ini();
     list->FGridViewSelect_ini();   // repeated on each refresh with the same result
-    EXPECT_EQ(ColumnCount, 76);
-    EXPECT_EQ(ColumnTable[0].field, QStringLiteral("tbl_Computer_List.MainKey"));
-    EXPECT_EQ(ColumnTable[0].caption, QStringLiteral(" "));
-    EXPECT_EQ(ColumnTable[10].field, QStringLiteral("ipaddress"));
+    EXPECT_EQ(g.ColumnCount, 76);
+    EXPECT_EQ(g.ColumnTable[0].field, QStringLiteral("tbl_Computer_List.MainKey"));
+    EXPECT_EQ(g.ColumnTable[0].caption, QStringLiteral(" "));
+    EXPECT_EQ(g.ColumnTable[10].field, QStringLiteral("ipaddress"));
     // the two crossed page-file columns stay crossed
-    EXPECT_EQ(ColumnTable[29].field, QStringLiteral("Memory_Used"));
-    EXPECT_EQ(ColumnTable[30].field, QStringLiteral("Pagefile_Used"));
-    EXPECT_EQ(ColumnTable[30].caption, QStringLiteral("ページファイル全容量"));
-    EXPECT_EQ(ColumnTable[31].field, QStringLiteral("Memory_Used"));
-    EXPECT_EQ(ColumnTable[31].caption, QStringLiteral("ページファイル使用量"));
-    EXPECT_EQ(ColumnTable[65].field, QStringLiteral("tbl_Computer_List.Update"));
-    EXPECT_EQ(ColumnTable[76].field, QStringLiteral("Comment"));
-    EXPECT_EQ(ColumnTable[76].caption, QStringLiteral("コメント"));
-    EXPECT_TRUE(ColumnTable[77].field.isEmpty());
+    EXPECT_EQ(g.ColumnTable[29].field, QStringLiteral("Memory_Used"));
+    EXPECT_EQ(g.ColumnTable[30].field, QStringLiteral("Pagefile_Used"));
+    EXPECT_EQ(g.ColumnTable[30].caption, QStringLiteral("ページファイル全容量"));
+    EXPECT_EQ(g.ColumnTable[31].field, QStringLiteral("Memory_Used"));
+    EXPECT_EQ(g.ColumnTable[31].caption, QStringLiteral("ページファイル使用量"));
+    EXPECT_EQ(g.ColumnTable[65].field, QStringLiteral("tbl_Computer_List.Update"));
+    EXPECT_EQ(g.ColumnTable[76].field, QStringLiteral("Comment"));
+    EXPECT_EQ(g.ColumnTable[76].caption, QStringLiteral("コメント"));
+    EXPECT_TRUE(g.ColumnTable[77].field.isEmpty());
 
     // every field of the 76 is one the list's recordset knows, and no two columns share a caption
     // except the two "パスワード" of the user and of the inventory
     gSetSQLVal();
     db::Recordset rs;
-    rs.Open(ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
+    rs.Open(g.ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
     QStringList captions;
     for (int i = 0; i <= 76; ++i) {
-        EXPECT_GE(rs.FieldIndex(ColumnTable[i].field), 0) << ColumnTable[i].field.toStdString();
-        EXPECT_FALSE(ColumnTable[i].caption.isEmpty()) << i;
-        captions << ColumnTable[i].caption;
+        EXPECT_GE(rs.FieldIndex(g.ColumnTable[i].field), 0) << g.ColumnTable[i].field.toStdString();
+        EXPECT_FALSE(g.ColumnTable[i].caption.isEmpty()) << i;
+        captions << g.ColumnTable[i].caption;
     }
     rs.Close();
     captions.removeDuplicates();
@@ -138,10 +139,10 @@ TEST_F(MainListTest, FillShowsTheSavedViewWithItsRenderersAndColours)
     for (int c = 2; c < 13; ++c)
         EXPECT_EQ(grid->ColWidth(c), 1500) << c;
 
-    EXPECT_EQ(ListRowCount, 3);
-    EXPECT_EQ(ListRowKeys[1], 5);
-    EXPECT_EQ(ListRowKeys[2], 3);
-    EXPECT_EQ(ListRowKeys[3], 9);
+    EXPECT_EQ(g.ListRowCount, 3);
+    EXPECT_EQ(g.ListRowKeys[1], 5);
+    EXPECT_EQ(g.ListRowKeys[2], 3);
+    EXPECT_EQ(g.ListRowKeys[3], 9);
     EXPECT_TRUE(list->ListReady);
     EXPECT_EQ(list->PreviousRow, 1);
     EXPECT_EQ(list->CurrentRow, 0);
@@ -203,7 +204,7 @@ TEST_F(MainListTest, ClickSelectsAndPaintsOverTheRetiredGray)
     // A refresh that skips MSFlexGrid_Main_ini (as the view window's does) leaves row 1 gray
     // while the old key stays selected.
     list->ListReady = true;
-    EXPECT_TRUE(list->fnc_View_PClist());
+    EXPECT_EQ(list->fnc_View_PClist(), ui::FillResult::Rows);
     EXPECT_EQ(columnsIn(1, gray()), allColumns());
     EXPECT_EQ(columnsIn(2, gray()), std::vector<int>{3});
     EXPECT_EQ(list->CurrentRow, 1);
@@ -247,13 +248,13 @@ TEST_F(MainListTest, TheRowAfter2560FailsAndLeavesTheGridHidden)
     manyComputers(1, 2560);
     writeColumns(0, {8});
     ASSERT_TRUE(loadList());
-    EXPECT_EQ(ListRowCount, 2560);
-    EXPECT_EQ(ListRowKeys[2560], 2560);
+    EXPECT_EQ(g.ListRowCount, 2560);
+    EXPECT_EQ(g.ListRowKeys[2560], 2560);
     EXPECT_EQ(grid->TextMatrix(2560, 2), QStringLiteral("PC2560"));
 
     manyComputers(2561, 2561);
     gSetSQLVal();
-    EXPECT_FALSE(list->fnc_View_PClist());
+    EXPECT_EQ(list->fnc_View_PClist(), ui::FillResult::Failed);
     EXPECT_EQ(errorBoxes(), std::vector<long>{9});
     EXPECT_EQ(dialogs.messages().at(0).buttons, ui::vbCritical | ui::vbOKOnly);
     EXPECT_FALSE(grid->Visible());
@@ -261,7 +262,7 @@ TEST_F(MainListTest, TheRowAfter2560FailsAndLeavesTheGridHidden)
     // what was filled is kept; the row count and the ready flag are those of the last fill
     EXPECT_EQ(grid->Rows(), 2562);
     EXPECT_EQ(rowTexts(2561), (QStringList{"2561", "2561", "PC2561"}));
-    EXPECT_EQ(ListRowCount, 2560);
+    EXPECT_EQ(g.ListRowCount, 2560);
     EXPECT_TRUE(list->ListReady);
 }
 

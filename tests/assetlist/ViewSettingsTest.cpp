@@ -12,17 +12,17 @@ protected:
     // What an earlier view left in memory.
     void earlierView()
     {
-        ColumnCount = 76;
-        OptDel = 1;
-        SelectNumber = 2;
+        g.ColumnCount = 76;
+        g.OptDel = 1;
+        g.SelectNumber = 2;
         for (int i = 0; i <= 2; ++i) {
-            SortKeyName[i] = QStringLiteral("old");
-            SortKeyCaption[i] = QStringLiteral("古い");
-            SortKeyDirection[i] = QStringLiteral("DESC");
+            g.SortKeyName[i] = QStringLiteral("old");
+            g.SortKeyCaption[i] = QStringLiteral("古い");
+            g.SortKeyDirection[i] = QStringLiteral("DESC");
         }
-        SelectedColumnCount = 4;
+        g.SelectedColumnCount = 4;
         for (int i = 1; i <= 76; ++i)
-            SelectedColumns[i] = std::int16_t(i);
+            g.SelectedColumns[i] = std::int16_t(i);
     }
 };
 
@@ -30,16 +30,16 @@ TEST_F(ViewSettings, NoFileGivesTheEmptyViewAndKeepsTheDirections)
 {
     earlierView();
     mdl_ini::LoadViewSettings();
-    EXPECT_EQ(OptDel, 0);
-    EXPECT_EQ(SelectNumber, 0);
-    EXPECT_EQ(SelectedColumnCount, 0);
+    EXPECT_EQ(g.OptDel, 0);
+    EXPECT_EQ(g.SelectNumber, 0);
+    EXPECT_EQ(g.SelectedColumnCount, 0);
     for (int i = 0; i <= 2; ++i) {
-        EXPECT_EQ(SortKeyName[i], QString()) << i;
-        EXPECT_EQ(SortKeyCaption[i], QString()) << i;
-        EXPECT_EQ(SortKeyDirection[i], QStringLiteral("DESC")) << "a direction left out keeps memory's";
+        EXPECT_EQ(g.SortKeyName[i], QString()) << i;
+        EXPECT_EQ(g.SortKeyCaption[i], QString()) << i;
+        EXPECT_EQ(g.SortKeyDirection[i], QStringLiteral("DESC")) << "a direction left out keeps memory's";
     }
     for (int i = 1; i <= 76; ++i)
-        EXPECT_EQ(SelectedColumns[i], 0) << i;
+        EXPECT_EQ(g.SelectedColumns[i], 0) << i;
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
@@ -57,24 +57,24 @@ TEST_F(ViewSettings, ReadsTheSectionOfTheCurrentView)
                   {QStringLiteral("MSFlexGrit_Select1"), QStringLiteral("8")},
                   {QStringLiteral("MSFlexGrit_Select3"), QStringLiteral("76")}});
     writeColumns(0, {1, 2, 3, 4, 5});   // another view's section is not read
-    SectionNumber = 5;
+    g.SectionNumber = 5;
     mdl_ini::LoadViewSettings();
-    EXPECT_EQ(OptDel, 1);
-    EXPECT_EQ(SelectNumber, 2);
-    EXPECT_EQ(SortKeyName[0], QStringLiteral("Location_Name"));
-    EXPECT_EQ(SortKeyCaption[0], QStringLiteral("設置場所"));
-    EXPECT_EQ(SortKeyDirection[0], QStringLiteral("ASC"));
-    EXPECT_EQ(SortKeyName[1], QStringLiteral("Computer_Name"));
-    EXPECT_EQ(SortKeyCaption[1], QStringLiteral("コンピュータ名"));
-    EXPECT_EQ(SortKeyDirection[1], QStringLiteral("DESC"));
-    EXPECT_EQ(SortKeyName[2], QString());
-    EXPECT_EQ(SelectedColumnCount, 3);
+    EXPECT_EQ(g.OptDel, 1);
+    EXPECT_EQ(g.SelectNumber, 2);
+    EXPECT_EQ(g.SortKeyName[0], QStringLiteral("Location_Name"));
+    EXPECT_EQ(g.SortKeyCaption[0], QStringLiteral("設置場所"));
+    EXPECT_EQ(g.SortKeyDirection[0], QStringLiteral("ASC"));
+    EXPECT_EQ(g.SortKeyName[1], QStringLiteral("Computer_Name"));
+    EXPECT_EQ(g.SortKeyCaption[1], QStringLiteral("コンピュータ名"));
+    EXPECT_EQ(g.SortKeyDirection[1], QStringLiteral("DESC"));
+    EXPECT_EQ(g.SortKeyName[2], QString());
+    EXPECT_EQ(g.SelectedColumnCount, 3);
     // place 0 is never loaded; a place without its key reads 0, the key column
-    EXPECT_EQ(SelectedColumns[0], 0);
-    EXPECT_EQ(SelectedColumns[1], 8);
-    EXPECT_EQ(SelectedColumns[2], 0);
-    EXPECT_EQ(SelectedColumns[3], 76);
-    EXPECT_EQ(SelectedColumns[4], 0) << "the rest of the earlier view is cleared";
+    EXPECT_EQ(g.SelectedColumns[0], 0);
+    EXPECT_EQ(g.SelectedColumns[1], 8);
+    EXPECT_EQ(g.SelectedColumns[2], 0);
+    EXPECT_EQ(g.SelectedColumns[3], 76);
+    EXPECT_EQ(g.SelectedColumns[4], 0) << "the rest of the earlier view is cleared";
 }
 
 TEST_F(ViewSettings, BadNumbersAndTooManyColumnsGoToTheCaller)
@@ -91,9 +91,9 @@ TEST_F(ViewSettings, BadNumbersAndTooManyColumnsGoToTheCaller)
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_Select2"), QStringLiteral("9"));
     mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_Select256"), QStringLiteral("12"));
     EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::SubscriptOutOfRange);
-    EXPECT_EQ(SelectedColumnCount, 300);
-    EXPECT_EQ(SelectedColumns[2], 9);
-    EXPECT_EQ(SelectedColumns[256], 12);
+    EXPECT_EQ(g.SelectedColumnCount, 300);
+    EXPECT_EQ(g.SelectedColumns[2], 9);
+    EXPECT_EQ(g.SelectedColumns[256], 12);
     EXPECT_TRUE(dialogs.calls().empty());
 }
 

@@ -2,6 +2,7 @@
 
 #include "FoundationFixture.h"
 
+#include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "support/VbErrors.h"
 
@@ -28,7 +29,7 @@ TEST(AccessStart, WithoutTheLedgerTheStatusPanelSaysWhereItWasLookedFor)
     TempDir folder;
     app::SetPath(folder.path());
     QString status;
-    Mdl_gData::StatusPanelText = [&](const QString& t) { status = t; };
+    Mdl_gData::g.StatusPanelText = [&](const QString& t) { status = t; };
     ScriptedDialogs dialogs;
     EXPECT_FALSE(ConnectDatabase());
     EXPECT_EQ(status, QStringLiteral("DBファイルが見つかりません。\r\nData Source=") + folder.path()

@@ -15,7 +15,7 @@ protected:
     {
         Mdl_gData::Reset();
         app::SetPath(ledger.folder());
-        Mdl_gData::StatusPanelText = [this](const QString& t) { statusText = t; };
+        Mdl_gData::g.StatusPanelText = [this](const QString& t) { statusText = t; };
     }
     void TearDown() override
     {

@@ -78,7 +78,7 @@ TEST_F(InventoryRead, AJapaneseFileBecomesOneComputerWithAllItsRows)
     EXPECT_EQ(results[0].outcome, Outcome::Read);
     EXPECT_EQ(results[0].mainKey, 1);
     EXPECT_FALSE(results[0].keyOverflow);
-    EXPECT_EQ(Mdl_gData::LastReadMainKey, 1);
+    EXPECT_EQ(Mdl_gData::g.LastReadMainKey, 1);
 
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, JaPc01Pclist());
     ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, JaPc01ComputerList());
@@ -159,7 +159,7 @@ TEST_F(InventoryRead, TheSameFileTwiceMakesTwoComputersWithConsecutiveKeys)
     EXPECT_EQ(first[0].mainKey, 1);
     EXPECT_EQ(first[1].mainKey, 2);
     EXPECT_EQ(second[0].mainKey, 3);
-    EXPECT_EQ(Mdl_gData::LastReadMainKey, 3);
+    EXPECT_EQ(Mdl_gData::g.LastReadMainKey, 3);
     for (int key = 1; key <= 3; ++key) {
         ExpectRow(ledger, QStringLiteral("tbl_Pclist"), key, JaPc01Pclist());
         EXPECT_EQ(applications(key).size(), 5);

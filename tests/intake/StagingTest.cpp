@@ -41,8 +41,8 @@ TEST_F(Staging, SplitsEachLineWithoutQuotingAndCutsNothingButLongFields)
 {
     // LF line ends, a .txt extension: the extension is not tested
     ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc03.txt"))));
-    EXPECT_EQ(Mdl_gData::CsvFileBaseName, QStringLiteral("ja_pc03"));
-    EXPECT_EQ(Mdl_gData::CsvFileExtension, QStringLiteral("txt"));
+    EXPECT_EQ(Mdl_gData::g.CsvFileBaseName, QStringLiteral("ja_pc03"));
+    EXPECT_EQ(Mdl_gData::g.CsvFileExtension, QStringLiteral("txt"));
 
     const QString explanation = QStringLiteral("開発部の共用機。").repeated(37) + QStringLiteral("ABCD");
     const QStringList expected = {
@@ -73,8 +73,8 @@ TEST_F(Staging, AQuoteInAValueReachesStagingUnharmed)
     // a comma inside Contents shifts the later fields of that line
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Contents, Unit, Renewalday FROM tbl_ReadCsv WHERE \"Key\" = '25'")),
               QStringList{QStringLiteral("1|281|040,KB,2005/12/04 10:30:15")});
-    EXPECT_EQ(Mdl_gData::CsvFileBaseName, QStringLiteral("ja_pc01"));
-    EXPECT_EQ(Mdl_gData::CsvFileExtension, QStringLiteral("csv"));
+    EXPECT_EQ(Mdl_gData::g.CsvFileBaseName, QStringLiteral("ja_pc01"));
+    EXPECT_EQ(Mdl_gData::g.CsvFileExtension, QStringLiteral("csv"));
 }
 
 TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
@@ -94,7 +94,7 @@ TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
         EXPECT_EQ(staging(), before) << path.toStdString();
     }
     // the names are set before the test of the first line
-    EXPECT_EQ(Mdl_gData::CsvFileBaseName, QStringLiteral("bom"));
+    EXPECT_EQ(Mdl_gData::g.CsvFileBaseName, QStringLiteral("bom"));
 
     // a file that cannot be opened raises to the caller, staging untouched
     try {

@@ -46,9 +46,9 @@ protected:
     }
     frm_Edit_Table& openTable(const QString& table, const QString& caption)
     {
-        Mdl_gData::CurrentTableName = table;
-        Mdl_gData::CurrentTableCaption = caption;
-        frm_Edit_Table::OpenModal();
+        Mdl_gData::g.CurrentTableName = table;
+        Mdl_gData::g.CurrentTableCaption = caption;
+        frm_Edit_Table::Instance().Show(ui::vbModal);
         return frm_Edit_Table::Instance();
     }
     static void click(ui::FlexGrid& g, int row)
@@ -129,7 +129,7 @@ TEST_F(Masters, TheCodeTableEditorAddsUpdatesAndSoftDeletesInEachOfTheFiveTables
         dialogs.clear();
 
         w.Mue_Close->trigger();
-        EXPECT_TRUE(Mdl_gData::CurrentTableName.isEmpty());
+        EXPECT_TRUE(Mdl_gData::g.CurrentTableName.isEmpty());
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 }
@@ -190,8 +190,8 @@ TEST_F(Masters, ARemovedSectionLeavesItsUsersListedGrayAndADeletedUserLeaves)
     ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0')"));
     ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
                                "VALUES (1, '山田', '0', 1, 0), (2, '佐藤', '0', 1, 0), (3, '鈴木', '0', 9, 0)"));
-    Mdl_gData::MainFormWidth = 12000;
-    Mdl_gData::MainFormHeight = 9000;
+    Mdl_gData::g.MainFormWidth = 12000;
+    Mdl_gData::g.MainFormHeight = 9000;
     frm_Edit_User& w = frm_Edit_User::Instance();
     w.Show(ui::vbModal);
     EXPECT_EQ(cells(*w.MSFlexGrid_Edit, 1), (QStringList{"0||||||||", "1|総務部||山田|||||", "2|総務部||佐藤|||||"}))

@@ -1,7 +1,9 @@
 #include "ShellFixture.h"
 
+#include "masters/frm_Edit_Table.h"
 #include "shell/frmAbout.h"
 
+#include "platform/ui/Dispatch.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/StatusBar.h"
 #include "platform/ui/Twips.h"
@@ -124,8 +126,8 @@ TEST_F(MainWindow, ProfileDeleteAndRetireFollowTheSelection)
     list.CurrentRow = 4;
     m.Mnu_Edit_profile->trigger();
     EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), nullptr);
-    EXPECT_EQ(Mdl_gData::SelectedMainKey, 0);
-    EXPECT_EQ(Mdl_gData::SelectedGridRow, 4);
+    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 0);
+    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 4);
     EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
 
     // with one it opens beside the main window and the item goes off
@@ -135,8 +137,8 @@ TEST_F(MainWindow, ProfileDeleteAndRetireFollowTheSelection)
     ui::Form* profile = window(QStringLiteral("frm_Edit_Computer"));
     ASSERT_NE(profile, nullptr);
     EXPECT_EQ(profile->windowModality(), Qt::NonModal);
-    EXPECT_EQ(Mdl_gData::SelectedMainKey, 12);
-    EXPECT_EQ(Mdl_gData::SelectedGridRow, 3);
+    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 12);
+    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 3);
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
 
     // the double-click takes the same steps, on the same window
@@ -145,8 +147,8 @@ TEST_F(MainWindow, ProfileDeleteAndRetireFollowTheSelection)
     list.CurrentRow = 5;
     Q_EMIT m.MSFlexGrid_Main->DblClick();
     EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), profile);
-    EXPECT_EQ(Mdl_gData::SelectedMainKey, 15);
-    EXPECT_EQ(Mdl_gData::SelectedGridRow, 5);
+    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 15);
+    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 5);
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
 }
 
@@ -176,8 +178,8 @@ TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensIt
 
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
     ASSERT_NE(window(QStringLiteral("frm_Edit_Computer")), nullptr);
-    EXPECT_EQ(Mdl_gData::SelectedMainKey, 5);
-    EXPECT_EQ(Mdl_gData::SelectedGridRow, 1);
+    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 5);
+    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 1);
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
     EXPECT_TRUE(m.Mnu_Delete->isEnabled());
     EXPECT_TRUE(dialogs.calls().empty());
@@ -215,7 +217,6 @@ TEST_F(MainWindow, MenusOpenTheirWindowsWithTheirModality)
         {"Mnu_Read_Sondex", "frm_Open", true, false},
         {"Mnu_View_INPORT", "frm_Inport", false, true},
         {"Mnu_Edit_Users", "frm_Edit_User", true, true},
-        {"Mnu_Edit_Table_3", "frm_Edit_Table", true, false},
         {"Mnu_Edit_License", "frm_Edit_License", false, true},
         {"Mnu_Mail_Manegement", "frm_Edit_Mail", true, true},
         {"Mnu_Network_Manegement", "frm_Edit_Network", false, true},
@@ -225,30 +226,34 @@ TEST_F(MainWindow, MenusOpenTheirWindowsWithTheirModality)
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.item);
-        Mdl_gData::MainFormWidth = Mdl_gData::MainFormHeight = Mdl_gData::MainFormTop = Mdl_gData::MainFormLeft = 0;
+        Mdl_gData::g.MainFormWidth = Mdl_gData::g.MainFormHeight = Mdl_gData::g.MainFormTop = Mdl_gData::g.MainFormLeft = 0;
         action(m, c.item)->trigger();
         ui::Form* w = window(QString::fromUtf8(c.window));
         ASSERT_NE(w, nullptr);
         EXPECT_EQ(w->windowModality(), c.modal ? Qt::ApplicationModal : Qt::NonModal);
         if (c.keepsGeometry) {
-            EXPECT_EQ(Mdl_gData::MainFormWidth, m.Width());
-            EXPECT_EQ(Mdl_gData::MainFormHeight, m.Height());
-            EXPECT_EQ(Mdl_gData::MainFormTop, m.Top());
-            EXPECT_EQ(Mdl_gData::MainFormLeft, m.Left());
+            EXPECT_EQ(Mdl_gData::g.MainFormWidth, m.Width());
+            EXPECT_EQ(Mdl_gData::g.MainFormHeight, m.Height());
+            EXPECT_EQ(Mdl_gData::g.MainFormTop, m.Top());
+            EXPECT_EQ(Mdl_gData::g.MainFormLeft, m.Left());
         } else {
-            EXPECT_EQ(Mdl_gData::MainFormWidth, 0);
-            EXPECT_EQ(Mdl_gData::MainFormTop, 0);
+            EXPECT_EQ(Mdl_gData::g.MainFormWidth, 0);
+            EXPECT_EQ(Mdl_gData::g.MainFormTop, 0);
         }
         w->Unload();
     }
-    // the code table editor is told which table to edit
-    EXPECT_EQ(Mdl_gData::CurrentTableCaption, QStringLiteral("設置場所"));
-    EXPECT_EQ(Mdl_gData::CurrentTableName, QStringLiteral("tbl_Location"));
-    EXPECT_EQ(Mdl_gData::CurrentTableIndex, 3);
+
+    // The code table editor is told which table to edit. Without a ledger its load fails with no
+    // handler, which ends the run.
+    action(m, "Mnu_Edit_Table_3")->trigger();
+    EXPECT_EQ(Mdl_gData::g.CurrentTableCaption, QStringLiteral("設置場所"));
+    EXPECT_EQ(Mdl_gData::g.CurrentTableName, QStringLiteral("tbl_Location"));
+    EXPECT_EQ(Mdl_gData::g.CurrentTableIndex, 3);
+    EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
+    EXPECT_EQ(frm_Edit_Table::IfLoaded(), nullptr);
     action(m, "Mnu_Edit_Table_1")->trigger();
-    EXPECT_EQ(Mdl_gData::CurrentTableCaption, QStringLiteral("部")) << "the descriptor's caption, not the menu's";
-    EXPECT_EQ(Mdl_gData::CurrentTableName, QStringLiteral("tbl_Section"));
-    EXPECT_TRUE(dialogs.calls().empty());
+    EXPECT_EQ(Mdl_gData::g.CurrentTableCaption, QStringLiteral("部")) << "the descriptor's caption, not the menu's";
+    EXPECT_EQ(Mdl_gData::g.CurrentTableName, QStringLiteral("tbl_Section"));
 }
 
 TEST_F(MainWindow, GridFollowsTheWindowAndFocusLossKeepsThePlace)
@@ -273,9 +278,9 @@ TEST_F(MainWindow, GridFollowsTheWindowAndFocusLossKeepsThePlace)
     m.SetTop(1500);
     QEvent deactivate(QEvent::WindowDeactivate);
     QApplication::sendEvent(&m, &deactivate);
-    EXPECT_EQ(Mdl_gData::MainFormLeft, m.Left());
-    EXPECT_EQ(Mdl_gData::MainFormTop, m.Top());
-    EXPECT_EQ(Mdl_gData::MainFormLeft, ui::PixelsToTwips(ui::TwipsToPixels(3000)));
+    EXPECT_EQ(Mdl_gData::g.MainFormLeft, m.Left());
+    EXPECT_EQ(Mdl_gData::g.MainFormTop, m.Top());
+    EXPECT_EQ(Mdl_gData::g.MainFormLeft, ui::PixelsToTwips(ui::TwipsToPixels(3000)));
 }
 
 } // namespace

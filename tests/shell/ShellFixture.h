@@ -5,7 +5,6 @@
 #include "platform/app/App.h"
 #include "platform/ui/Fonts.h"
 #include "platform/ui/Form.h"
-#include "shell/ShellWindows.h"
 #include "shell/frm_Main.h"
 
 #include "support/ScriptedDialogs.h"
@@ -41,7 +40,7 @@ protected:
     frm_Main& start(const QString& folder)
     {
         app::SetPath(folder);
-        return ShellWindows::Main();
+        return frm_Main::Instance();
     }
 
     // The visible top-level window of that name, or nullptr.

@@ -51,13 +51,13 @@ TEST_F(Start, WithoutTheLedgerTheWindowStandsEmptyAndSaysWhy)
     EXPECT_TRUE(ended.empty());
     EXPECT_TRUE(dialogs.calls().empty());
     // the view settings before the connection were read; nothing after it ran
-    EXPECT_EQ(Mdl_gData::SectionNumber, 2);
-    EXPECT_EQ(Mdl_gData::ViewNames[1], QStringLiteral("経理"));
-    EXPECT_EQ(Mdl_gData::ViewNames[0], QStringLiteral(" "));
-    EXPECT_EQ(Mdl_gData::ColumnCount, 0);
+    EXPECT_EQ(Mdl_gData::g.SectionNumber, 2);
+    EXPECT_EQ(Mdl_gData::g.ViewNames[1], QStringLiteral("経理"));
+    EXPECT_EQ(Mdl_gData::g.ViewNames[0], QStringLiteral(" "));
+    EXPECT_EQ(Mdl_gData::g.ColumnCount, 0);
     EXPECT_EQ(m.Width(), onScreen(14835)) << "the saved size is not applied";
     EXPECT_EQ(m.Height(), onScreen(10530));
-    EXPECT_EQ(Mdl_gData::MainFormWidth, 0);
+    EXPECT_EQ(Mdl_gData::g.MainFormWidth, 0);
     // the menus stay as designed
     EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
     EXPECT_TRUE(m.Mnu_Delete->isEnabled());
@@ -68,7 +68,6 @@ TEST_F(Start, SecondStartIsRefusedAndTheFirstGoesOn)
 {
     frm_Main& first = start(ledger.folder());
     ASSERT_TRUE(first.IsLoaded());
-    MainList* firstList = first.List();
 
     auto* second = new frm_Main;
     second->Load();
@@ -80,10 +79,9 @@ TEST_F(Start, SecondStartIsRefusedAndTheFirstGoesOn)
     delete second;
 
     EXPECT_TRUE(first.IsLoaded());
-    EXPECT_EQ(MainList::Instance(), firstList);
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen);
-    ASSERT_TRUE(Mdl_gData::StatusPanelText);
-    Mdl_gData::StatusPanelText(QStringLiteral("接続に失敗しました"));
+    ASSERT_TRUE(Mdl_gData::g.StatusPanelText);
+    Mdl_gData::g.StatusPanelText(QStringLiteral("接続に失敗しました"));
     EXPECT_EQ(first.StatusBar1->PanelText(1), QStringLiteral("接続に失敗しました"));
     EXPECT_FALSE(app::InstanceLock(ledger.folder()).Acquire()) << "the first still holds the folder";
 }
@@ -124,12 +122,12 @@ TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
     writeIni("[View0]\r\nSelectNumber=1\r\n");
     frm_Main& m = start(ledger.folder());
     // a DB.ini without "Main": view 0, all names blank, 14835 x 10530 at 50, 50
-    EXPECT_EQ(Mdl_gData::SectionNumber, 0);
+    EXPECT_EQ(Mdl_gData::g.SectionNumber, 0);
     for (int i = 0; i <= 7; ++i)
-        EXPECT_EQ(Mdl_gData::ViewNames[i], QStringLiteral(" ")) << i;
+        EXPECT_EQ(Mdl_gData::g.ViewNames[i], QStringLiteral(" ")) << i;
     EXPECT_EQ(m.geometry(), QRect(ui::TwipsToPixels(50), ui::TwipsToPixels(50), ui::TwipsToPixels(14835), ui::TwipsToPixels(10530)));
-    EXPECT_EQ(Mdl_gData::MainFormWidth, 14835);
-    EXPECT_EQ(Mdl_gData::MainFormTop, 50);
+    EXPECT_EQ(Mdl_gData::g.MainFormWidth, 14835);
+    EXPECT_EQ(Mdl_gData::g.MainFormTop, 50);
 
     QPointer<frm_Main> main(&m);
     m.Mnu_Program_Quit->trigger();
@@ -137,7 +135,7 @@ TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
                                 + "\r\nFormLeft=" + QByteArray::number(onScreen(50)) + "\r\nFormSizeWidth=14835\r\nFormSizeHight=10530\r\n";
     EXPECT_EQ(iniBytes(), expected);
     EXPECT_FALSE(Mdl_gData::HasDbConnection()) << "the connection was closed and released";
-    EXPECT_EQ(ShellWindows::MainIfLoaded(), nullptr);
+    EXPECT_EQ(frm_Main::IfLoaded(), nullptr);
     flushDeletes();
     EXPECT_TRUE(main.isNull());
     EXPECT_TRUE(dialogs.calls().empty());
@@ -146,7 +144,7 @@ TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
     writeIni("[Main]\r\nFormTop=1500\r\nFormLeft=3000\r\nFormSizeWidth=12000\r\nFormSizeHight=9000\r\nSectionNumber=3\r\n");
     frm_Main& next = start(ledger.folder());
     EXPECT_EQ(next.geometry(), QRect(ui::TwipsToPixels(3000), ui::TwipsToPixels(1500), ui::TwipsToPixels(12000), ui::TwipsToPixels(9000)));
-    EXPECT_EQ(Mdl_gData::SectionNumber, 3);
+    EXPECT_EQ(Mdl_gData::g.SectionNumber, 3);
 }
 
 TEST_F(Start, CloseBoxUnloadsEveryWindowAndSavesNothing)
@@ -158,7 +156,7 @@ TEST_F(Start, CloseBoxUnloadsEveryWindowAndSavesNothing)
     m.SetLeft(4500);
 
     m.close();
-    EXPECT_EQ(ShellWindows::MainIfLoaded(), nullptr);
+    EXPECT_EQ(frm_Main::IfLoaded(), nullptr);
     EXPECT_EQ(window(QStringLiteral("frm_Inport")), nullptr) << "every window is unloaded";
     EXPECT_TRUE(ui::Forms().isEmpty());
     EXPECT_FALSE(iniExists()) << "size and place are saved by the quit command alone";

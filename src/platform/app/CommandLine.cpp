@@ -1,5 +1,7 @@
 #include "platform/app/CommandLine.h"
 
+#include "platform/app/App.h"
+
 namespace app {
 
 void PrintLine(std::FILE* to, const QString& line) { std::fprintf(to, "%s\n", line.toUtf8().constData()); }
@@ -39,6 +41,8 @@ bool CommandLine::Parse(const QStringList& args)
     }
     return true;
 }
+
+QString CommandLine::LedgerPath() const { return Value("--ledger", Path() + QStringLiteral("/pcdb.mdb")); }
 
 int CommandLine::Usage(const QString& why) const
 {

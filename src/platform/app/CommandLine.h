@@ -36,6 +36,8 @@ public:
         return m_values.value(QLatin1String(option), fallback);
     }
     const QStringList& Operands() const { return m_operands; }
+    // The ledger the command works on: --ledger PATH, or pcdb.mdb beside the program.
+    QString LedgerPath() const;
 
     // Prints why and the usage line on standard error; returns ExitFailed.
     int Usage(const QString& why) const;

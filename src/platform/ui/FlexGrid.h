@@ -9,6 +9,11 @@ namespace ui {
 
 class FlexGridModel;
 
+// What the fill of a list window found: rows, none, or a failure that the window's error box has
+// already shown. The system's own fill routines answer True or False; this tells "no rows" from
+// "failed", which the companion program's exports need.
+enum class FillResult { Rows, NoRows, Failed };
+
 // MSFlexGrid's cell alignments.
 enum FlexAlignment {
     flexAlignLeftTop = 0,

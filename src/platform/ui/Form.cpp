@@ -44,16 +44,27 @@ Form::~Form() { forget(this); }
 
 void Form::Load()
 {
-    if (m_loaded)
+    if (m_loaded || m_loading)
         return;
+    m_loading = true;
+    try {
+        Form_Load();
+    } catch (...) {
+        m_loading = false;
+        throw;
+    }
+    m_loading = false;
     m_loaded = true;
-    loadedForms().push_back(this);
-    Form_Load();
+    // a Form_Load that unloaded its own form leaves it out of the collection
+    if (!m_unloaded)
+        loadedForms().push_back(this);
 }
 
 void Form::Show(int modal)
 {
     Load();
+    if (m_unloaded)
+        return;
     if (modal == vbModal) {
         if (isVisible())
             throw vb::VbError::FormAlreadyShown();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
@@ -27,8 +28,9 @@ public:
     explicit Form(QWidget* parent = nullptr);
     ~Form() override;
 
-    // Runs Form_Load the first time and puts the form into the Forms collection. An error in
-    // Form_Load goes to the caller, as it went to the code that loaded the form.
+    // Runs Form_Load the first time and then puts the form into the Forms collection. An error in
+    // Form_Load goes to the caller, as it went to the code that loaded the form, and leaves the
+    // form not loaded: the next Load runs Form_Load again.
     void Load();
     bool IsLoaded() const { return m_loaded && !m_unloaded; }
     bool IsUnloaded() const { return m_unloaded; }
@@ -74,9 +76,50 @@ private:
     int frameExtraWidth() const;
     int frameExtraHeight() const;
 
+    bool m_loading = false;
     bool m_loaded = false;
     bool m_unloading = false;
     bool m_unloaded = false;
+};
+
+// A form class that owns its one instance, as VB gave each form class one: Instance() creates and
+// loads it on first use, from any window; an unload ends it, and the next use creates a fresh one.
+// A Form_Load that fails leaves no instance behind. Declared as
+//     class frm_X : public ui::SingleForm<frm_X> { Q_OBJECT ... };
+template <typename T>
+class SingleForm : public Form {
+public:
+    using Form::Form;
+
+    static T& Instance()
+    {
+        QPointer<T>& form = slot();
+        if (!form || form->IsUnloaded()) {
+            auto* made = new T();
+            form = made;
+            try {
+                made->Load();
+            } catch (...) {
+                form = nullptr;
+                delete made;
+                throw;
+            }
+        }
+        return *form;
+    }
+    // The instance when it is loaded, else nullptr; never creates one.
+    static T* IfLoaded()
+    {
+        const QPointer<T>& form = slot();
+        return form && form->IsLoaded() ? form.data() : nullptr;
+    }
+
+private:
+    static QPointer<T>& slot()
+    {
+        static QPointer<T> form;
+        return form;
+    }
 };
 
 // The loaded forms, in the order they were loaded (VB's Forms collection).

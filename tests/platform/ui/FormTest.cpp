@@ -1,6 +1,5 @@
 #include "platform/ui/FixedSize.h"
 #include "platform/ui/Form.h"
-#include "platform/ui/FormInstance.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/VbError.h"
 
@@ -17,10 +16,11 @@ using ui::Form;
 
 namespace {
 
-// A form that counts its events and can refuse to close.
-class Probe : public Form {
+// A form that counts its events, can refuse to close and can fail its load.
+class Probe : public ui::SingleForm<Probe> {
 public:
     static inline int created = 0;
+    static inline bool failLoad = false;
     Probe() { ++created; }
     int loads = 0;
     std::vector<int> queries;
@@ -28,7 +28,12 @@ public:
     bool refuse = false;
 
 protected:
-    void Form_Load() override { ++loads; }
+    void Form_Load() override
+    {
+        ++loads;
+        if (failLoad)
+            throw vb::VbError::TypeMismatch();
+    }
     void Form_QueryUnload(int& cancel, int mode) override
     {
         queries.push_back(mode);
@@ -42,11 +47,10 @@ void flushDeletes() { QCoreApplication::sendPostedEvents(nullptr, QEvent::Deferr
 
 TEST(Form, OneInstanceCreatedOnFirstUseAndEndedByItsUnload)
 {
-    ui::FormInstance<Probe> frm;
     Probe::created = 0;
-    EXPECT_EQ(frm.IfLoaded(), nullptr);
-    Probe& first = frm();
-    EXPECT_EQ(&frm(), &first);
+    EXPECT_EQ(Probe::IfLoaded(), nullptr);
+    Probe& first = Probe::Instance();
+    EXPECT_EQ(&Probe::Instance(), &first);
     EXPECT_EQ(Probe::created, 1);
     EXPECT_EQ(first.loads, 1);
     EXPECT_TRUE(ui::Forms().contains(&first));
@@ -60,14 +64,37 @@ TEST(Form, OneInstanceCreatedOnFirstUseAndEndedByItsUnload)
     EXPECT_EQ(unloaded.count(), 1);
     EXPECT_FALSE(first.isVisible());
     EXPECT_FALSE(ui::Forms().contains(&first));
-    EXPECT_EQ(frm.IfLoaded(), nullptr);
+    EXPECT_EQ(Probe::IfLoaded(), nullptr);
     flushDeletes();
     EXPECT_TRUE(gone.isNull()) << "an unloaded form is destroyed";
 
-    Probe& second = frm();
+    Probe& second = Probe::Instance();
     EXPECT_EQ(Probe::created, 2);
     EXPECT_EQ(second.loads, 1) << "a fresh instance loads again";
     second.Unload();
+    flushDeletes();
+}
+
+TEST(Form, ALoadThatFailsLeavesNoHalfLoadedForm)
+{
+    Probe::created = 0;
+    Probe::failLoad = true;
+    try {
+        Probe::Instance();
+        ADD_FAILURE() << "the load's error did not reach the caller";
+    } catch (const vb::VbError& e) {
+        EXPECT_EQ(e.Number(), 13);
+    }
+    EXPECT_EQ(Probe::IfLoaded(), nullptr);
+    EXPECT_TRUE(ui::Forms().isEmpty());
+
+    // the next use makes a fresh form and runs its load again
+    Probe::failLoad = false;
+    Probe& f = Probe::Instance();
+    EXPECT_EQ(Probe::created, 2);
+    EXPECT_EQ(f.loads, 1);
+    EXPECT_TRUE(f.IsLoaded());
+    f.Unload();
     flushDeletes();
 }
 
@@ -94,7 +121,7 @@ TEST(Form, CloseBoxAsksWithModeZeroAndMayBeRefused)
 
 TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
 {
-    ui::FormInstance<Probe> frm;
+    auto frm = [] () -> Probe& { return Probe::Instance(); };
     frm().Show(ui::vbModal);
     EXPECT_TRUE(frm().isVisible());
     EXPECT_EQ(frm().windowModality(), Qt::ApplicationModal);
@@ -117,8 +144,7 @@ TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
 TEST(Form, ModalWindowInTheProgramWaitsUntilItGoes)
 {
     ui::SetModalLoop(true);
-    ui::FormInstance<Probe> frm;
-    Probe& f = frm();
+    Probe& f = Probe::Instance();
     bool waited = false;
     QTimer::singleShot(0, &f, [&] {
         waited = f.isVisible();
@@ -127,7 +153,7 @@ TEST(Form, ModalWindowInTheProgramWaitsUntilItGoes)
     f.Show(ui::vbModal);
     ui::SetModalLoop(false);
     EXPECT_TRUE(waited) << "Show returned only after the window was unloaded";
-    EXPECT_EQ(frm.IfLoaded(), nullptr);
+    EXPECT_EQ(Probe::IfLoaded(), nullptr);
     flushDeletes();
 }
 
