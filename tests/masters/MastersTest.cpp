@@ -3,47 +3,19 @@
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
 
-#include "foundation/Mdl_Access_mdb.h"
-#include "foundation/Mdl_gData.h"
-#include "platform/app/App.h"
 #include "platform/ui/DropDownCombo.h"
-#include "platform/ui/FlexGrid.h"
 #include "platform/ui/Twips.h"
 
-#include "support/QtPrinters.h"
-#include "support/ScriptedDialogs.h"
-#include "support/TempLedger.h"
+#include "support/WindowTest.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace {
 
-class Masters : public ::testing::Test {
+class Masters : public WindowTest {
 protected:
-    void SetUp() override
-    {
-        Mdl_gData::Reset();
-        app::SetPath(ledger.folder());
-        app::SetEndHook([this](int status) { ended.push_back(status); });
-        ASSERT_TRUE(Mdl_Access_mdb::ConnectDatabase());
-    }
-    void TearDown() override
-    {
-        for (ui::Form* f : ui::Forms())
-            f->Unload();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        Mdl_Access_mdb::DisconnectDatabase();
-        app::SetEndHook({});
-        Mdl_gData::Reset();
-        app::SetPath(QString());
-        EXPECT_TRUE(ended.empty()) << "the program ended";
-    }
     frm_Edit_Table& openTable(const QString& table, const QString& caption)
     {
         Mdl_gData::g.CurrentTableName = table;
@@ -51,26 +23,6 @@ protected:
         frm_Edit_Table::Instance().Show(ui::vbModal);
         return frm_Edit_Table::Instance();
     }
-    static void click(ui::FlexGrid& g, int row)
-    {
-        g.scrollTo(g.model()->index(row, 1));
-        QTest::mouseClick(g.viewport(), Qt::LeftButton, {}, g.CellRect(row, 1).center());
-    }
-    static QStringList cells(const ui::FlexGrid& g, int firstCol = 0)
-    {
-        QStringList out;
-        for (int r = 1; r < g.Rows(); ++r) {
-            QStringList row;
-            for (int c = firstCol; c < g.Cols(); ++c)
-                row << g.TextMatrix(r, c);
-            out << row.join(QLatin1Char('|'));
-        }
-        return out;
-    }
-
-    TempLedger ledger;
-    ScriptedDialogs dialogs;
-    std::vector<int> ended;
 };
 
 // Each of the five tables through add, update, clear and soft delete: the editor knows them only

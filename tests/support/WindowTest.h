@@ -1,0 +1,69 @@
+#pragma once
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_gData.h"
+#include "platform/app/App.h"
+#include "platform/ui/FlexGrid.h"
+#include "platform/ui/Form.h"
+
+#include "support/QtPrinters.h"
+#include "support/ScriptedDialogs.h"
+#include "support/TempLedger.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+// The fixture of a window's tests: a fresh ledger in the program folder, connected as the main
+// window connects it; the dialogs scripted; the end of the program recorded instead of taken (a
+// test that expects the fatal end clears `ended` itself). Every window left is unloaded after.
+class WindowTest : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        Mdl_gData::Reset();
+        app::SetPath(ledger.folder());
+        app::SetEndHook([this](int status) { ended.push_back(status); });
+        ASSERT_TRUE(Mdl_Access_mdb::ConnectDatabase());
+    }
+    void TearDown() override
+    {
+        for (ui::Form* f : ui::Forms())
+            f->Unload();
+        flushDeletes();
+        Mdl_Access_mdb::DisconnectDatabase();
+        app::SetEndHook({});
+        Mdl_gData::Reset();
+        app::SetPath(QString());
+        EXPECT_TRUE(ended.empty()) << "the program ended";
+    }
+
+    static void flushDeletes() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+    // A user's click on a cell of the grid (column 1 unless told).
+    static void click(ui::FlexGrid& grid, int row, int col = 1)
+    {
+        grid.scrollTo(grid.model()->index(row, col));
+        QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, col).center());
+    }
+    // The rows below the heading, each as its cells from firstCol on joined by "|".
+    static QStringList cells(const ui::FlexGrid& grid, int firstCol = 0)
+    {
+        QStringList out;
+        for (int r = grid.FixedRows(); r < grid.Rows(); ++r) {
+            QStringList row;
+            for (int c = firstCol; c < grid.Cols(); ++c)
+                row << grid.TextMatrix(r, c);
+            out << row.join(QLatin1Char('|'));
+        }
+        return out;
+    }
+
+    TempLedger ledger;
+    ScriptedDialogs dialogs;
+    std::vector<int> ended;
+};
