@@ -75,7 +75,7 @@ const FieldBlock& blockOf(Page page)
 constexpr int kPageLeft = 240;
 constexpr int kPageTop = 3120;
 constexpr int kPageWidth = 11280;
-constexpr int kPageHeight = 4080;
+constexpr int kPageHeight = 4440;
 constexpr int kTabTop = 2700;
 
 QLabel* label(QWidget* parent, const QString& text, int left, int top, int width, int height = kBoxHeight)

@@ -205,7 +205,7 @@ inline constexpr std::array<CapacityRow, 6> CapacityRows = {{
 inline constexpr std::array<const char*, 8> TabCaptions = {"CPU", "ネットワーク", "アプリケーション", "デバイス",
                                                            "プリンタ", "環境変数", "ドライブ", "保守"};
 // The tabs are widened by ideographic blanks behind their captions.
-inline constexpr int TabCaptionPadding = 2;
+inline constexpr int TabCaptionPadding = 1;
 
 enum Tab { TabCpu = 1, TabNetwork, TabApplications, TabDevices, TabPrinters, TabEnvironment, TabDrive, TabMaintenance };
 

@@ -43,6 +43,13 @@ constexpr int kDarkGrey = 8;
 
 QString text(const Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
+// A loaded value shows from its start, as a text box showed it, however long it is.
+void showText(QLineEdit* box, const QString& text)
+{
+    box->setText(text);
+    box->setCursorPosition(0);
+}
+
 // VB's = against a number or text: true only when the value is there and equal.
 bool equals(const Variant& v, const Variant& w) { return vb::Equal(v, w).value_or(false); }
 
@@ -360,7 +367,7 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
     for (const auto& [box, field] : band) {
         resumeNext([&] {
             const Variant& value = rs.Fields(field).Value();
-            box->setText(notEmpty(value) ? vb::CStr(value) : QStringLiteral(" "));
+            showText(box, notEmpty(value) ? vb::CStr(value) : QStringLiteral(" "));
         });
     }
     rs.CloseIfOpen();
@@ -392,7 +399,7 @@ bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
             box->clear();
             const Variant& value = rs.Fields(f.column).Value();
             if (!value.IsNull())
-                box->setText(vb::CStr(value));
+                showText(box, vb::CStr(value));
             lbr_dat[size_t(f.index)]->setText(QString::fromUtf8(f.caption));
         }
         for (size_t i = 0; i < IE_Env.size(); ++i)
@@ -430,7 +437,7 @@ bool frm_Edit_Computer::fnc_View_Drive(std::int16_t key)
                 const Variant& unit = rs.Fields(row.unit).Value();
                 if (!unit.IsNull())
                     shown += QStringLiteral(" ") + vb::CStr(unit);
-                tbx_Drive[i]->setText(shown);
+                showText(tbx_Drive[i], shown);
             }
             lbr_Drive[i]->setText(QString::fromUtf8(row.caption));
         }
