@@ -7,6 +7,7 @@
 // Medians of several runs, offscreen unless QT_QPA_PLATFORM says otherwise.
 //
 //   bench_profile [--computers N] [--runs R]
+#include "../BenchTiming.h"
 #include "../intake/InventoryGenerator.h"
 
 #include "foundation/Mdl_Access_mdb.h"
@@ -33,20 +34,9 @@
 
 namespace {
 
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-double ms(const QElapsedTimer& t) { return double(t.nsecsElapsed()) / 1e6; }
-
-double cpuMs()
-{
-    timespec ts{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
-    return double(ts.tv_sec) * 1e3 + double(ts.tv_nsec) / 1e6;
-}
+using BenchTiming::cpuMs;
+using BenchTiming::median;
+using BenchTiming::ms;
 
 // Any box the profile shows would spoil a figure: they are counted, never answered by a user.
 class CountingDialogs : public ui::DialogProvider {

@@ -85,6 +85,29 @@ void setTextColour(QWidget* w, int qbColour)
     w->setPalette(p);
 }
 
+// The handler of the window's routines that read rows: a failure shows the error box, closes the
+// row set and ends the routine, leaving what it had filled so far; the routine answers false.
+bool handled(db::Recordset& rs, const std::function<bool()>& body)
+{
+    try {
+        return body();
+    } catch (const vb::VbError& e) {
+        Mdl_Access_mdb::StandardErrorBox(e);
+        rs.CloseIfOpen();
+        return false;
+    }
+}
+
+// Opens a select; with no row it is closed again and the answer is false.
+bool openRow(db::Recordset& rs, const QString& sql)
+{
+    rs.Open(sql, DbConnection());
+    if (!rs.Eof())
+        return true;
+    rs.Close();
+    return false;
+}
+
 // One statement of a routine that goes on after a failure: the box, then the next statement.
 void resumeNext(const std::function<void()>& statement)
 {
@@ -315,7 +338,7 @@ void frm_Edit_Computer::fnc_Clear_Profile()
 bool frm_Edit_Computer::fnc_Fill_UserList()
 {
     db::Recordset rs;
-    try {
+    return handled(rs, [&] {
         rs.Open(QStringLiteral("SELECT * FROM tbl_User  WHERE ((tbl_User.Available_flug)='0') ORDER BY  kana,  User_Name;"),
                 DbConnection());
         List_User->clear();
@@ -329,11 +352,7 @@ bool frm_Edit_Computer::fnc_Fill_UserList()
         }
         rs.Close();
         return true;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
+    });
 }
 
 // The band. Unlike the other loaders it goes on after a failure, statement by statement, so one
@@ -377,12 +396,9 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
 bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
 {
     db::Recordset rs;
-    try {
-        rs.Open(fullProfileSql(key), DbConnection());
-        if (rs.Eof()) {
-            rs.Close();
+    return handled(rs, [&] {
+        if (!openRow(rs, fullProfileSql(key)))
             return false;
-        }
         for (int i = 0; i < CpuFeatureCount; ++i) {
             const CpuFeature& f = CpuFeatures[size_t(i)];
             QLabel* name = lbr_CPU_Feature[size_t(i)];
@@ -406,25 +422,17 @@ bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
             setTextColour(IE_Env[i], equals(rs.Fields(ProfileTables::IE_Env[i].column).Value(), Variant(1)) ? kBlack : kDarkGrey);
         rs.Close();
         return true;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
+    });
 }
 
 bool frm_Edit_Computer::fnc_View_Drive(std::int16_t key)
 {
     db::Recordset rs;
-    try {
-        rs.Open(QStringLiteral("SELECT DISTINCT tbl_Pclist.*, tbl_Computer_List.* FROM tbl_Pclist, tbl_Computer_List  WHERE "
-                               "((tbl_Pclist.MainKey=")
-                    + QString::number(key) + QStringLiteral(") AND (tbl_Pclist.MainKey = tbl_Computer_List.MainKey));"),
-                DbConnection());
-        if (rs.Eof()) {
-            rs.Close();
+    return handled(rs, [&] {
+        if (!openRow(rs, QStringLiteral("SELECT DISTINCT tbl_Pclist.*, tbl_Computer_List.* FROM tbl_Pclist, tbl_Computer_List  "
+                                        "WHERE ((tbl_Pclist.MainKey=")
+                             + QString::number(key) + QStringLiteral(") AND (tbl_Pclist.MainKey = tbl_Computer_List.MainKey));")))
             return false;
-        }
         for (size_t i = 0; i < DriveFlags.size(); ++i)
             Chk_Drive[i]->setChecked(equals(rs.Fields(DriveFlags[i].column).Value(), Variant(1)));
         for (size_t i = 0; i < CapacityRows.size(); ++i) {
@@ -459,11 +467,7 @@ bool frm_Edit_Computer::fnc_View_Drive(std::int16_t key)
         }
         rs.Close();
         return true;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
+    });
 }
 
 ui::FillResult frm_Edit_Computer::fnc_View_Applist(std::int16_t key)
@@ -497,7 +501,7 @@ void frm_Edit_Computer::cmb_Dat_DropDown(int index)
     combo->clear();
     const QString table = g.CodeTables[index].table;
     db::Recordset rs;
-    try {
+    handled(rs, [&] {
         rs.Open(QStringLiteral("SELECT * FROM ") + table, DbConnection());
         QStringList names;
         for (int c = 0; c < 4; ++c)
@@ -514,10 +518,8 @@ void frm_Edit_Computer::cmb_Dat_DropDown(int index)
                 combo->addItem(vb::CStr(name), int(vb::CLng(rs.Value(0))));
         }
         rs.Close();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-    }
+        return true;
+    });
     combo->setCurrentIndex(-1);
     combo->setEditText(typed);
 }
@@ -542,7 +544,7 @@ void frm_Edit_Computer::List_User_Click()
     if (!Mdl_Access_mdb::RecordExists(QStringLiteral("SELECT tbl_User.User_Code FROM tbl_User ")))
         return;
     db::Recordset rs;
-    try {
+    handled(rs, [&] {
         rs.Open(QStringLiteral("SELECT DISTINCT tbl_Section.Section_Name, tbl_Division.Division_Name, tbl_User.User_Name FROM "
                                "tbl_Section, tbl_Division, tbl_User  WHERE (((tbl_User.Section_Code)=([tbl_Section].[Section_"
                                "Code])) AND ((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND (tbl_User.User_Code=")
@@ -559,10 +561,8 @@ void frm_Edit_Computer::List_User_Click()
             }
         }
         rs.Close();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-    }
+        return true;
+    });
 }
 
 // ---------------------------------------------------------------------------------------------
