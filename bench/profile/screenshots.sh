@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Screenshots of the computer profile, one per page, as a user sees it: Fenwold run under Xvfb
 # with openbox on the demo ledger of make_demo.sh, the first computer double-clicked in the main
-# list, then each tab clicked. Writes docs/screenshots/profile-<page>.png.
+# list, then each tab clicked. Writes docs/screenshots/profile-<page>.png, and the first page of
+# that computer's printed sheet as profile-sheet.png.
 #
 #   bench/profile/screenshots.sh BUILD_DIR
 set -euo pipefail
@@ -38,4 +39,8 @@ mkdir -p "$out"
 for page in cpu network applications devices printers environment drives maintenance; do
   convert "$demo/shot-$page.png" -strip -colors 256 "PNG8:$out/profile-$page.png"
 done
+# the printed sheet of the same computer, its first page
+"$build/src/app/fenwold-admin" sheet --ledger "$demo/pcdb.mdb" 1 "$demo/sheet.pdf" >/dev/null
+pdftoppm -r 90 -gray -png -f 1 -l 1 "$demo/sheet.pdf" "$demo/sheet"
+convert "$demo"/sheet-*1.png -colors 16 "PNG8:$out/profile-sheet.png"
 ls -l "$out"/profile-*.png

@@ -6,6 +6,8 @@
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
 #include "platform/db/Recordset.h"
+#include "platform/print/PrintSurface.h"
+#include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FocusEvents.h"
@@ -15,6 +17,7 @@
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
 #include "platform/vb/Format.h"
+#include "profile/Mdl_Print.h"
 #include "profile/ProfileLists.h"
 
 #include <QAction>
@@ -29,6 +32,7 @@
 
 #include <cmath>
 #include <functional>
+#include <memory>
 #include <optional>
 
 using Mdl_gData::DbConnection;
@@ -39,6 +43,12 @@ using vb::Variant;
 namespace {
 
 constexpr int kBlack = 0;
+
+// The printer dialogs' flags: the setup form (cdlPDPrintSetup); and no selection, the printer's
+// own copies and collation, no print to file (cdlPDNoSelection | cdlPDUseDevModeCopiesAndCollate
+// | cdlPDHidePrintToFile).
+constexpr long kPrintSetupFlags = 0x40;
+constexpr long kPrintFlags = 0x140004;
 constexpr int kDarkGrey = 8;
 
 QString text(const Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
@@ -140,8 +150,8 @@ void frm_Edit_Computer::connectEvents()
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", ui::PaddedCaption(QStringLiteral("ファイル"), 7));
     Mnu_ExportCSV = ui::AddMenuItem(Mnu_File, "Mnu_ExportCSV", QStringLiteral("書き出し"));
     ui::AddMenuSeparator(Mnu_File, "sepalator01");
-    Mnu_Pagelayout = ui::AddMenuItem(Mnu_File, "Mnu_Pagelayout", QStringLiteral("ページ設定"));
-    Mnu_Print = ui::AddMenuItem(Mnu_File, "Mnu_Print", QStringLiteral("印刷"));
+    Mnu_Pagelayout = ui::AddMenuItem(Mnu_File, "Mnu_Pagelayout", QStringLiteral("ページ設定"), [this] { Mnu_Pagelayout_Click(); });
+    Mnu_Print = ui::AddMenuItem(Mnu_File, "Mnu_Print", QStringLiteral("印刷"), [this] { Mnu_Print_Click(); });
     ui::AddMenuSeparator(Mnu_File, "sepalator02");
     Mnu_Close = ui::AddMenuItem(Mnu_File, "Mnu_Close", QStringLiteral("閉じる"), [this] { Mnu_Close_Click(); });
     Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", ui::PaddedCaption(QStringLiteral("編集"), 8));
@@ -639,6 +649,37 @@ void frm_Edit_Computer::Mnu_Update_Click()
     QLineEdit* sortKey = tbx_Dat[IPAddressSortKeyField];
     if (sortKey->text() != entries.tbx_Dat[IPAddressSortKeyField])
         sortKey->setText(entries.tbx_Dat[IPAddressSortKeyField]);
+}
+
+// The printer and its paper; a cancelled dialog is no error.
+void frm_Edit_Computer::Mnu_Pagelayout_Click()
+{
+    ui::Dialogs().PrinterDialog({ui::PrinterDialogRequest::PrintSetup, kPrintSetupFlags, &print::Printer()});
+}
+
+// The sheet of the computer shown. The fields, the check boxes, the capacities and the two list
+// grids are read again first, so unsaved edits of them do not reach the paper, while an unsaved
+// choice of a master or of the user does. Any failure, a cancelled dialog included, ends the
+// command without a word.
+void frm_Edit_Computer::Mnu_Print_Click()
+{
+    try {
+        if (!ui::Dialogs().PrinterDialog({ui::PrinterDialogRequest::Print, kPrintFlags, &print::Printer()}))
+            return;
+        const std::int16_t key = g.ListRowKeys[vb::CInt(Variant(tbx_Key->text()))];
+        const std::shared_ptr<print::PrintSurface> surface = print::OpenPrinter();
+        PrintSheet(key, *surface);
+    } catch (const vb::VbError&) {
+    }
+}
+
+void frm_Edit_Computer::PrintSheet(std::int16_t key, print::PrintSurface& surface)
+{
+    fnc_View_Profile(key);
+    fnc_View_Applist(key);
+    fnc_View_PrinterList(key);
+    fnc_View_Drive(key);
+    Mdl_Print::fnc_Print_Sheet(*this, surface);
 }
 
 void frm_Edit_Computer::Mnu_Close_Click() { fnc_Close_Profile(); }

@@ -9,6 +9,10 @@
 
 #include <cstdint>
 
+namespace print {
+class PrintSurface;
+}
+
 // The computer profile: one computer's inventory record (tbl_Pclist) and administrative record
 // (tbl_Computer_List) with its user, section, division, location, maker and model, in a band on
 // top and eight pages below. It opens on the computer selected in the main list and steps through
@@ -51,6 +55,9 @@ public:
     // Shows the computer of that key as a step shows it: the window emptied, then, if the
     // computer is still in the ledger, its record, the list of the tab shown, and its drives.
     void ShowComputer(std::int16_t key);
+    // The sheet of the computer of that key, as the print command prints it: the fields, check
+    // boxes, capacities and the application and printer grids read again, then the sheet.
+    void PrintSheet(std::int16_t key, print::PrintSurface& surface);
     // What the save reads from the controls.
     ProfileSave::Entries Entries() const;
 
@@ -64,6 +71,8 @@ public:
     void tbx_Dat_GotFocus(int index);
     void tbx_Dat_LostFocus(int index);
     void Mnu_Update_Click();
+    void Mnu_Pagelayout_Click();
+    void Mnu_Print_Click();
     void Mnu_Close_Click();
     void Mnu_Edit_User_Click();
     void Mnu_Edit_Teble_Click(int index);
