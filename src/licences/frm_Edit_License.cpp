@@ -220,10 +220,11 @@ void frm_Edit_License::buildControls()
     FGrid_EditLicense->setObjectName(QStringLiteral("FGrid_EditLicense"));
     FGrid_EditLicense->move(ui::TwipsToPixels(kGridLeft), ui::TwipsToPixels(kGridTop));
 
-    // a list's Click: a new row chosen, by mouse or by key, or a click on the chosen row
+    // A list's Click: a row chosen by mouse or by key, or a click on the chosen row. The row a
+    // list marks as current when it gets the focus is no choice.
     for (QListWidget* list : {List_license, List_ComuputerName}) {
         auto handler = [this, list] { list == List_license ? List_license_Click() : List_ComuputerName_Click(); };
-        ui::Connect(list, &QListWidget::currentRowChanged, this, handler);
+        ui::Connect(list, &QListWidget::itemSelectionChanged, this, handler);
         ui::Connect(list, &QListWidget::itemClicked, this, handler);
     }
     cmb_Application->DropDown = [this] { cmb_Application_DropDown(); };
@@ -396,7 +397,7 @@ void frm_Edit_License::offerAdd()
 void frm_Edit_License::List_license_Click()
 {
     const QListWidgetItem* item = List_license->currentItem();
-    if (!item)
+    if (!item || !item->isSelected())
         return;
     tbx_LicenseName->setText(item->text());
     tbx_LicenseKey->setText(item->data(Qt::UserRole).toString());
@@ -406,7 +407,7 @@ void frm_Edit_License::List_license_Click()
 void frm_Edit_License::List_ComuputerName_Click()
 {
     const QListWidgetItem* item = List_ComuputerName->currentItem();
-    if (!item)
+    if (!item || !item->isSelected())
         return;
     tbx_ComputerName->setText(item->text());
     tbx_ComputerKey->setText(item->data(Qt::UserRole).toString());
