@@ -89,10 +89,13 @@ void frm_Add_License::buildControls()
 
     MSFlexGrid_License = new ui::FlexGrid(this);
     MSFlexGrid_License->setObjectName(QStringLiteral("MSFlexGrid_License"));
+    // the key is a column like the others: white, and gray with its row when selected
+    MSFlexGrid_License->SetFixedCols(0);
     ui::Connect(MSFlexGrid_License, &ui::FlexGrid::Click, this, [this] { MSFlexGrid_License_Click(); });
 
     auto* fields = new QFormLayout;
     fields->setContentsMargins(8, 8, 8, 6);
+    fields->setHorizontalSpacing(8);
     fields->addRow(QStringLiteral("アプリケーション名"), tbx_LicenseName);
     fields->addRow(QStringLiteral("購入数"), tbx_LicenseNum);
 
