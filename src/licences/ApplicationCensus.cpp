@@ -1,9 +1,8 @@
 #include "licences/ApplicationCensus.h"
 
 #include "assetlist/ListExport.h"
-#include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
-#include "platform/db/Recordset.h"
+#include "licences/LicenceRoutines.h"
 #include "platform/text/AnsiFile.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -11,10 +10,13 @@
 
 namespace ApplicationCensus {
 
+using LicenceRoutines::FieldText;
+using LicenceRoutines::SetCell;
+
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
+using LicenceRoutines::Gray;
+using LicenceRoutines::White;
 
 struct Column {
     const char* heading;
@@ -39,24 +41,12 @@ const Column kComputerColumns[] = {
     {"バージョン", 1300, u"Application_Version", nullptr},
 };
 
-// "" and Null leave a cell empty.
-QString cellText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
-
-void setCell(ui::FlexGrid& grid, int row, int col, const QString& text, int qbColour, int alignment)
-{
-    grid.SetTextMatrix(row, col, text);
-    grid.SetRow(row);
-    grid.SetCol(col);
-    grid.SetCellBackColor(ui::QBColor(qbColour));
-    grid.SetCellAlignment(alignment);
-}
-
 // The heading row: gray, centred at the bottom; the widths.
 template <size_t N>
 void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 {
     for (int c = 0; c < int(N); ++c) {
-        setCell(grid, 0, c, QString::fromUtf8(columns[c].heading), kGray, ui::flexAlignCenterBottom);
+        SetCell(grid, 0, c, QString::fromUtf8(columns[c].heading), Gray, ui::flexAlignCenterBottom);
         grid.SetColWidth(c, columns[c].width);
     }
 }
@@ -66,7 +56,7 @@ void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
 {
     db::Recordset rs;
-    try {
+    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
         rs.Open(QStringLiteral("SELECT tbl_ApplicationsList.Application_Name, Count(tbl_ApplicationsList.Key) FROM "
                                "tbl_ApplicationsList ,tbl_Computer_List WHERE (((tbl_Computer_List.Deleted_Flug)=0)) AND "
                                "(tbl_Computer_List.MainKey = tbl_ApplicationsList.Key) GROUP BY "
@@ -82,19 +72,15 @@ ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
         setHeadings(grid, kCensusColumns);
         // the current row follows the fill, which leaves it on the last row
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            setCell(grid, row, 0, QString::number(row), kGray, ui::flexAlignLeftBottom);
-            setCell(grid, row, 1, cellText(rs.Value(0)), kWhite, ui::flexAlignLeftBottom);
-            setCell(grid, row, 2, cellText(rs.Value(1)), kWhite, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 1, FieldText(rs.Value(0)), White, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 2, FieldText(rs.Value(1)), White, ui::flexAlignLeftBottom);
         }
-        grid.SetRedraw(true);
         rs.Close();
         return ui::FillResult::Rows;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
+    });
+    grid.SetRedraw(true);
+    return result;
 }
 
 QString ComputersSql(const QString& applicationName, std::int16_t location)
@@ -125,7 +111,7 @@ ui::FillResult FillComputersGrid(ui::FlexGrid& grid, const QString& applicationN
     if (applicationName.isEmpty())
         return ui::FillResult::NoRows;
     db::Recordset rs;
-    try {
+    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
         rs.Open(ComputersSql(applicationName, location), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             rs.Close();
@@ -144,21 +130,17 @@ ui::FillResult FillComputersGrid(ui::FlexGrid& grid, const QString& applicationN
             flags[c] = kComputerColumns[c].flagField ? rs.FieldIndex(kComputerColumns[c].flagField) : -1;
         }
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            setCell(grid, row, 0, QString::number(row), kGray, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
             for (int c = 1; c < cols; ++c) {
-                const bool gray = flags[c] >= 0 && cellText(rs.Value(flags[c])) == QLatin1String("1");
-                setCell(grid, row, c, cellText(rs.Value(fields[c])), gray ? kGray : kWhite, ui::flexAlignLeftBottom);
+                const bool gray = flags[c] >= 0 && FieldText(rs.Value(flags[c])) == QLatin1String("1");
+                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
             }
         }
-        grid.SetRedraw(true);
         rs.Close();
         return ui::FillResult::Rows;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
+    });
+    grid.SetRedraw(true);
+    return result;
 }
 
 std::vector<std::pair<QString, std::int16_t>> LocationChoices()
@@ -168,7 +150,7 @@ std::vector<std::pair<QString, std::int16_t>> LocationChoices()
     rs.Open(QStringLiteral("SELECT * FROM tbl_Location WHERE (Available_flug ='0')ORDER BY Location_Code ;"), Mdl_gData::DbConnection(),
             db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext())
-        choices.emplace_back(cellText(rs.Fields(u"Location_Name").Value()), vb::CInt(rs.Fields(u"Location_Code").Value()));
+        choices.emplace_back(FieldText(rs.Fields(u"Location_Name").Value()), vb::CInt(rs.Fields(u"Location_Code").Value()));
     rs.Close();
     return choices;
 }

@@ -1,73 +1,63 @@
 #include "licences/LicenseAssignment.h"
 
-#include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
-#include "platform/db/Recordset.h"
+#include "licences/LicenceRoutines.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
 #include "platform/vb/VbError.h"
 
 namespace LicenseAssignment {
 
+using LicenceRoutines::FieldText;
+using LicenceRoutines::SetCell;
+
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
+using LicenceRoutines::Gray;
+using LicenceRoutines::White;
 
 // When a cell of the column turns gray: never, when the computer is retired, or when the master
 // entry behind it is deleted (its Available_flug, named in flagField, is "1").
-enum class Gray { Never, Retired, DeletedMaster };
+enum class GrayWhen { Never, Retired, DeletedMaster };
 
 struct AssignmentColumn {
     const char* heading;
     int width;
     const char16_t* field;   // nullptr for the running number
-    Gray gray;
+    GrayWhen gray;
     const char16_t* flagField;
 };
 // Column 0 is the hidden key of the assignment, column 1 the running number.
 const AssignmentColumn kColumns[] = {
-    {"", 0, u"tbl_License_Dat.Key", Gray::Never, nullptr},
-    {"No", 400, nullptr, Gray::Never, nullptr},
-    {"アプリケーション名", 1900, u"Application_Name", Gray::Never, nullptr},
-    {"コンピュータ名", 1400, u"Computer_Name", Gray::Retired, u"Deleted_Flug"},
-    {"プロダクトID", 1200, u"ProductID", Gray::Never, nullptr},
-    {"ライセンス番号", 1200, u"Licence_No", Gray::Never, nullptr},
-    {"インストールキー", 2500, u"Install_Key", Gray::Never, nullptr},
-    {"購入形態", 1200, u"Payment_Type", Gray::Never, nullptr},
-    {"パッケージ", 1200, u"Asset_Type", Gray::Never, nullptr},
-    {"ユーザ", 1500, u"User_Name", Gray::DeletedMaster, u"tbl_User.Available_flug"},
-    {"部", 1500, u"Section_Name", Gray::DeletedMaster, u"tbl_Section.Available_flug"},
-    {"課", 1500, u"Division_Name", Gray::DeletedMaster, u"tbl_Division.Available_flug"},
-    {"設置場所", 1500, u"Location_Name", Gray::DeletedMaster, u"tbl_Location.Available_flug"},
-    {"単価", 1500, u"Purchase_Price", Gray::Never, nullptr},
-    {"コメント", 1500, u"Comment", Gray::Never, nullptr},
+    {"", 0, u"tbl_License_Dat.Key", GrayWhen::Never, nullptr},
+    {"No", 400, nullptr, GrayWhen::Never, nullptr},
+    {"アプリケーション名", 1900, u"Application_Name", GrayWhen::Never, nullptr},
+    {"コンピュータ名", 1400, u"Computer_Name", GrayWhen::Retired, u"Deleted_Flug"},
+    {"プロダクトID", 1200, u"ProductID", GrayWhen::Never, nullptr},
+    {"ライセンス番号", 1200, u"Licence_No", GrayWhen::Never, nullptr},
+    {"インストールキー", 2500, u"Install_Key", GrayWhen::Never, nullptr},
+    {"購入形態", 1200, u"Payment_Type", GrayWhen::Never, nullptr},
+    {"パッケージ", 1200, u"Asset_Type", GrayWhen::Never, nullptr},
+    {"ユーザ", 1500, u"User_Name", GrayWhen::DeletedMaster, u"tbl_User.Available_flug"},
+    {"部", 1500, u"Section_Name", GrayWhen::DeletedMaster, u"tbl_Section.Available_flug"},
+    {"課", 1500, u"Division_Name", GrayWhen::DeletedMaster, u"tbl_Division.Available_flug"},
+    {"設置場所", 1500, u"Location_Name", GrayWhen::DeletedMaster, u"tbl_Location.Available_flug"},
+    {"単価", 1500, u"Purchase_Price", GrayWhen::Never, nullptr},
+    {"コメント", 1500, u"Comment", GrayWhen::Never, nullptr},
 };
 constexpr int kCols = int(std::size(kColumns));
-
-// A field's text for a cell: "" and Null leave it empty.
-QString cellText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 bool grayCell(const AssignmentColumn& col, const vb::Variant& flag)
 {
     if (flag.IsNull())
         return false;
     switch (col.gray) {
-    case Gray::Retired: return vb::CInt(flag) != 0;
-    case Gray::DeletedMaster: return vb::CStr(flag) == QLatin1String("1");
-    case Gray::Never: break;
+    case GrayWhen::Retired: return vb::CInt(flag) != 0;
+    case GrayWhen::DeletedMaster: return vb::CStr(flag) == QLatin1String("1");
+    case GrayWhen::Never: break;
     }
     return false;
-}
-
-void setCell(ui::FlexGrid& grid, int row, int col, int qbColour, int alignment = -1)
-{
-    grid.SetRow(row);
-    grid.SetCol(col);
-    grid.SetCellBackColor(ui::QBColor(qbColour));
-    if (alignment >= 0)
-        grid.SetCellAlignment(alignment);
 }
 
 } // namespace
@@ -95,7 +85,7 @@ QString AssignmentSql(std::int16_t applicationKey, std::int16_t locationKey)
 ui::FillResult FillAssignmentGrid(ui::FlexGrid& grid, std::int16_t applicationKey, std::int16_t locationKey)
 {
     db::Recordset rs;
-    try {
+    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
         rs.Open(AssignmentSql(applicationKey, locationKey), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             grid.SetCols(0);
@@ -111,39 +101,31 @@ ui::FillResult FillAssignmentGrid(ui::FlexGrid& grid, std::int16_t applicationKe
         int flags[kCols];
         for (int c = 0; c < kCols; ++c) {
             const AssignmentColumn& col = kColumns[c];
-            grid.SetTextMatrix(0, c, QString::fromUtf8(col.heading));
-            grid.SetColWidth(c, col.width);
             if (c > 0)
-                setCell(grid, 0, c, kGray, ui::flexAlignCenterBottom);
+                SetCell(grid, 0, c, QString::fromUtf8(col.heading), Gray, ui::flexAlignCenterBottom);
+            grid.SetColWidth(c, col.width);
             fields[c] = col.field ? rs.FieldIndex(col.field) : -1;
             flags[c] = col.flagField ? rs.FieldIndex(col.flagField) : -1;
         }
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            grid.SetTextMatrix(row, 0, cellText(rs.Value(fields[0])));
-            grid.SetTextMatrix(row, 1, QString::number(row));
-            setCell(grid, row, 1, kGray);
+            grid.SetTextMatrix(row, 0, FieldText(rs.Value(fields[0])));
+            SetCell(grid, row, 1, QString::number(row), Gray, ui::flexAlignGeneral);
             for (int c = 2; c < kCols; ++c) {
-                const AssignmentColumn& col = kColumns[c];
-                grid.SetTextMatrix(row, c, cellText(rs.Value(fields[c])));
-                const bool gray = flags[c] >= 0 && grayCell(col, rs.Value(flags[c]));
-                setCell(grid, row, c, gray ? kGray : kWhite, ui::flexAlignLeftBottom);
+                const bool gray = flags[c] >= 0 && grayCell(kColumns[c], rs.Value(flags[c]));
+                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
             }
         }
-        grid.SetRedraw(true);
         rs.Close();
         return ui::FillResult::Rows;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
+    });
+    grid.SetRedraw(true);
+    return result;
 }
 
 QString ApplicationRow(const QString& name, const vb::Variant& unitNum)
 {
     const int blanks = 35 - Mdl_Sub::ByteLength(name);
-    return name + QString(qMax(0, blanks), u' ') + QStringLiteral(" 数量") + cellText(unitNum);
+    return name + QString(qMax(0, blanks), u' ') + QStringLiteral(" 数量") + FieldText(unitNum);
 }
 
 QString ComputerRow(const QString& computerName, const QString& locationName, const QString& userName)

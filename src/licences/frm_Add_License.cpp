@@ -3,6 +3,7 @@
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
+#include "licences/LicenceRoutines.h"
 #include "licences/frm_Edit_License.h"
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
@@ -25,6 +26,7 @@
 #include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
+using LicenceRoutines::FieldText;
 
 namespace {
 
@@ -32,8 +34,8 @@ namespace {
 constexpr int kWidth = 5940;
 constexpr int kHeight = 7020;
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
+using LicenceRoutines::Gray;
+using LicenceRoutines::White;
 
 struct LicenseColumn {
     const char* heading;
@@ -47,9 +49,6 @@ const LicenseColumn kColumns[] = {
     {"小計", u"Unit_Num", 700},
 };
 constexpr int kCols = int(std::size(kColumns));
-
-// A field's text for a cell; a Null, which never compares equal to "", leaves the cell empty.
-QString cellText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 } // namespace
 
@@ -140,7 +139,7 @@ bool frm_Add_License::FillLicenseGrid()
 {
     ui::FlexGrid& grid = *MSFlexGrid_License;
     db::Recordset rs;
-    try {
+    const bool filled = LicenceRoutines::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM tbl_License_Key ORDER BY Application_Name;"), DbConnection(), db::adOpenStatic,
                 db::adLockOptimistic);
         if (rs.RecordCount() < 1) {
@@ -152,15 +151,10 @@ bool frm_Add_License::FillLicenseGrid()
         grid.Clear();
         grid.SetCols(kCols);
         grid.SetRows(1);
-        const QColor gray = ui::QBColor(kGray);
         for (int c = 0; c < kCols; ++c) {
-            grid.SetTextMatrix(0, c, QString::fromUtf8(kColumns[c].heading));
+            LicenceRoutines::SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), Gray,
+                                     c > 0 ? ui::flexAlignCenterBottom : ui::flexAlignGeneral);
             grid.SetColWidth(c, kColumns[c].width);
-            grid.SetRow(0);
-            grid.SetCol(c);
-            grid.SetCellBackColor(gray);
-            if (c > 0)
-                grid.SetCellAlignment(ui::flexAlignCenterBottom);
         }
         grid.SetRedraw(false);
         grid.SetRows(int(rs.RecordCount()) + 1);
@@ -169,17 +163,13 @@ bool frm_Add_License::FillLicenseGrid()
             fields[c] = rs.FieldIndex(kColumns[c].field);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row)
             for (int c = 0; c < kCols; ++c)
-                grid.SetTextMatrix(row, c, cellText(rs.Value(fields[c])));
+                grid.SetTextMatrix(row, c, FieldText(rs.Value(fields[c])));
         GridReady = true;
-        grid.SetRedraw(true);
         rs.Close();
         return true;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        grid.SetRedraw(true);
-        return false;
-    }
+    });
+    grid.SetRedraw(true);
+    return filled;
 }
 
 void frm_Add_License::PaintLicenseRow(std::int16_t row, std::int16_t qbColour)
@@ -197,8 +187,8 @@ void frm_Add_License::MSFlexGrid_License_Click()
     tbx_LicenseNum->setText(grid.TextMatrix(SelectedRow, 2));
     // the whole grid is built again on each selection
     FillLicenseGrid();
-    PaintLicenseRow(PreviousRow, kWhite);
-    PaintLicenseRow(SelectedRow, kGray);
+    PaintLicenseRow(PreviousRow, White);
+    PaintLicenseRow(SelectedRow, Gray);
     PreviousRow = SelectedRow;
     Mnu_AddRecord->setEnabled(true);
     Mnu_DeleteRecord->setEnabled(true);
@@ -208,17 +198,7 @@ void frm_Add_License::MSFlexGrid_License_Click()
 // A new line is blank: what the boxes hold is not used. It sorts first, with its empty name.
 void frm_Add_License::Mnu_AddRecord_Click()
 {
-    db::Recordset rs;
-    rs.Open(QStringLiteral("SELECT * FROM tbl_License_Key"), DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-    const long count = rs.RecordCount();
-    rs.Close();
-    std::int16_t key = 1;
-    if (count != 0) {
-        rs.Open(QStringLiteral("SELECT MAX( [Key] ) FROM tbl_License_Key;"), DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        const std::int16_t highest = vb::CInt(rs.Value(0));
-        rs.Close();
-        key = vb::IntAdd(highest, 1);
-    }
+    const std::int16_t key = LicenceRoutines::NextKey(QStringLiteral("tbl_License_Key"));
     db::Connection& c = DbConnection();
     db::Transaction insert(c);
     c.Execute(QStringLiteral("INSERT INTO tbl_License_Key ( [Key] ) VALUES ( ") + QString::number(key) + QStringLiteral(" );"));
@@ -256,17 +236,8 @@ void frm_Add_License::Mnu_EditRecord_Click()
 // The assignments of the line stay in tbl_License_Dat; the assignment list no longer shows them.
 void frm_Add_License::Mnu_DeleteRecord_Click()
 {
-    if (ui::MsgBox(QStringLiteral("削除しますか？"), ui::vbQuestion + ui::vbYesNo, QStringLiteral("確認")) != ui::vbYes)
+    if (!LicenceRoutines::DeleteSelectedRow(*MSFlexGrid_License, SelectedRow, QStringLiteral("tbl_License_Key")))
         return;
-    if (SelectedRow < 1)
-        return;
-    const QString key = MSFlexGrid_License->TextMatrix(SelectedRow, 0);
-    if (key.isEmpty())
-        return;
-    db::Connection& c = DbConnection();
-    db::Transaction remove(c);
-    c.Execute(QStringLiteral("DELETE * FROM tbl_License_Key WHERE Key= ") + key + QStringLiteral(";"));
-    remove.Commit();
     MSFlexGrid_License->Clear();
     FillLicenseGrid();
     onlyAddEnabled();

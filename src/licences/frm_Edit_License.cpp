@@ -3,6 +3,7 @@
 #include "assetlist/ListExport.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
+#include "licences/LicenceRoutines.h"
 #include "licences/LicenseAssignment.h"
 #include "licences/frm_Add_License.h"
 #include "platform/app/App.h"
@@ -26,14 +27,14 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
+using LicenceRoutines::FieldText;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
+using LicenceRoutines::Gray;
+using LicenceRoutines::White;
 
 // The grid's place in the client area and the allowances of its size, in twips.
 constexpr int kGridLeft = 4680;
@@ -46,8 +47,6 @@ constexpr int kEntryWidth = 4560;
 // The rows of the two form combos, rebuilt on each drop-down; a row's item data is its index.
 const char* const kPaymentTypes[] = {" ", "リース", "現金"};
 const char* const kAssetTypes[] = {" ", "パッケージ FPP", "パッケージ PIPC", "License"};
-
-QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 // A filter box read as a key: 0 when empty.
 std::int16_t keyOf(const QLineEdit& box) { return box.text().isEmpty() ? std::int16_t(0) : vb::CInt(vb::Variant(box.text())); }
@@ -77,7 +76,7 @@ void fillFilterCombo(QComboBox& combo, const QString& sql, const char16_t* nameF
     db::Recordset rs;
     rs.Open(sql, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext())
-        combo.addItem(fieldText(rs.Fields(nameField).Value()), fieldText(rs.Fields(keyField).Value()));
+        combo.addItem(FieldText(rs.Fields(nameField).Value()), FieldText(rs.Fields(keyField).Value()));
     rs.Close();
 }
 
@@ -118,14 +117,8 @@ void frm_Edit_License::buildMenus()
 
 void frm_Edit_License::buildControls()
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setMenuBar(MenuBar);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetNoConstraint);
     // the grid and the panels stand at fixed places in the client area
-    m_client = new QWidget(this);
-    layout->addWidget(m_client, 1);
+    m_client = LicenceRoutines::AddClientArea(*this, MenuBar);
 
     auto name = [](QWidget* w, const char* objectName) {
         w->setObjectName(QString::fromUtf8(objectName));
@@ -238,14 +231,8 @@ void frm_Edit_License::buildControls()
 
 void frm_Edit_License::Form_Load()
 {
-    using Mdl_gData::g;
     // the main window's size and place, which its menu stored before opening this window
-    if (g.MainFormWidth > 0)
-        SetWidth(g.MainFormWidth);
-    if (g.MainFormHeight > 0)
-        SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    LicenceRoutines::TakeMainWindowPlace(*this);
     placeControls();
     ResetAssignmentSelection();
     ClearAssignmentEntry();
@@ -283,7 +270,7 @@ void frm_Edit_License::setMenus(bool add, bool update, bool remove)
 bool frm_Edit_License::View_ApplicatinList()
 {
     db::Recordset rs;
-    try {
+    return LicenceRoutines::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT tbl_License_Key.Key, tbl_License_Key.Application_Name, tbl_License_Key.Unit_Num FROM "
                                "tbl_License_Key ORDER BY Application_Name;"),
                 DbConnection(), db::adOpenStatic, db::adLockOptimistic);
@@ -293,26 +280,22 @@ bool frm_Edit_License::View_ApplicatinList()
         }
         List_license->clear();
         for (; !rs.Eof(); rs.MoveNext()) {
-            const QString name = fieldText(rs.Fields(u"Application_Name").Value());
+            const QString name = FieldText(rs.Fields(u"Application_Name").Value());
             if (name.isEmpty())
                 continue;
             auto* item = new QListWidgetItem(LicenseAssignment::ApplicationRow(name, rs.Fields(u"Unit_Num").Value()));
-            item->setData(Qt::UserRole, fieldText(rs.Fields(u"Key").Value()));
+            item->setData(Qt::UserRole, FieldText(rs.Fields(u"Key").Value()));
             List_license->addItem(item);
         }
         rs.Close();
         return true;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
+    });
 }
 
 bool frm_Edit_License::View_ComputerNameList()
 {
     db::Recordset rs;
-    try {
+    return LicenceRoutines::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT tbl_Pclist.*, tbl_Computer_List.*, tbl_Location.Location_Name, tbl_User.User_Name FROM "
                                "tbl_Computer_List, tbl_Pclist, tbl_Location, tbl_User  WHERE ((tbl_Computer_List.Deleted_Flug = 0) "
                                "AND ((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "
@@ -331,16 +314,12 @@ bool frm_Edit_License::View_ComputerNameList()
                                                                blankForNull(rs.Fields(u"Location_Name").Value()),
                                                                blankForNull(rs.Fields(u"User_Name").Value()));
             auto* item = new QListWidgetItem(row);
-            item->setData(Qt::UserRole, fieldText(rs.Fields(u"tbl_Computer_List.MainKey").Value()));
+            item->setData(Qt::UserRole, FieldText(rs.Fields(u"tbl_Computer_List.MainKey").Value()));
             List_ComuputerName->addItem(item);
         }
         rs.Close();
         return true;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
+    });
 }
 
 bool frm_Edit_License::View_LicenseAssignment()
@@ -369,7 +348,7 @@ void frm_Edit_License::ResetAssignmentSelection()
 {
     PreviousRow = 1;
     SelectedRow = 0;
-    PaintAssignmentRow(1, kWhite);
+    PaintAssignmentRow(1, White);
 }
 
 void frm_Edit_License::PaintAssignmentRow(std::int16_t row, std::int16_t qbColour)
@@ -382,7 +361,7 @@ QString frm_Edit_License::GetAssignmentField(std::int16_t key, const QString& fi
     db::Recordset rs;
     rs.Open(QStringLiteral("SELECT ") + fieldName + QStringLiteral(" FROM tbl_License_Dat WHERE Key  = ") + QString::number(key),
             DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-    const QString value = rs.RecordCount() == 0 ? QString() : fieldText(rs.Value(0));
+    const QString value = rs.RecordCount() == 0 ? QString() : FieldText(rs.Value(0));
     rs.Close();
     return value;
 }
@@ -469,8 +448,8 @@ void frm_Edit_License::FGrid_EditLicense_Click()
     cmb_AssetType->setEditText(grid.TextMatrix(SelectedRow, 8));
     tbx_Purchase_Price->setText(grid.TextMatrix(SelectedRow, 13));
     tbx_Comment->setText(grid.TextMatrix(SelectedRow, 14));
-    PaintAssignmentRow(PreviousRow, kWhite);
-    PaintAssignmentRow(SelectedRow, kGray);
+    PaintAssignmentRow(PreviousRow, White);
+    PaintAssignmentRow(SelectedRow, Gray);
     PreviousRow = SelectedRow;
     grid.SetRedraw(true);
     setMenus(false, true, true);
@@ -483,20 +462,10 @@ void frm_Edit_License::Mnu_AddRecord_Click()
 {
     if (tbx_LicenseKey->text().isEmpty() || tbx_ComputerKey->text().isEmpty())
         return;
-    db::Connection& c = DbConnection();
-    db::Recordset rs;
-    rs.Open(QStringLiteral("SELECT * FROM tbl_License_Dat"), c, db::adOpenStatic, db::adLockOptimistic);
-    const long count = rs.RecordCount();
-    rs.Close();
-    std::int16_t key = 1;
-    if (count != 0) {
-        rs.Open(QStringLiteral("SELECT MAX( [Key] ) FROM tbl_License_Dat;"), c, db::adOpenStatic, db::adLockOptimistic);
-        const std::int16_t highest = vb::CInt(rs.Value(0));
-        rs.Close();
-        key = vb::IntAdd(highest, 1);
-    }
+    const std::int16_t key = LicenceRoutines::NextKey(QStringLiteral("tbl_License_Dat"));
     const QString priceText = tbx_Purchase_Price->text();
     const std::int16_t price = priceText.isEmpty() ? std::int16_t(0) : vb::CInt(vb::Variant(priceText));
+    db::Connection& c = DbConnection();
     db::Transaction insert(c);
     c.Execute(QStringLiteral("INSERT INTO tbl_License_Dat ( [Key], Application_Code, Computer_Code, ProductID, Licence_No, "
                              "Install_Key, Payment_Type, Asset_Type, Purchase_Price, Comment, [Update] ) VALUES ( ")
@@ -553,17 +522,8 @@ void frm_Edit_License::Mnu_Update_Click()
 
 void frm_Edit_License::Mnu_DeleteRecord_Click()
 {
-    if (ui::MsgBox(QStringLiteral("削除しますか？"), ui::vbQuestion + ui::vbYesNo, QStringLiteral("確認")) != ui::vbYes)
+    if (!LicenceRoutines::DeleteSelectedRow(*FGrid_EditLicense, SelectedRow, QStringLiteral("tbl_License_Dat")))
         return;
-    if (SelectedRow < 1)
-        return;
-    const QString key = FGrid_EditLicense->TextMatrix(SelectedRow, 0);
-    if (key.isEmpty())
-        return;
-    db::Connection& c = DbConnection();
-    db::Transaction remove(c);
-    c.Execute(QStringLiteral("DELETE * FROM tbl_License_Dat WHERE Key= ") + key + QStringLiteral(";"));
-    remove.Commit();
     FGrid_EditLicense->Clear();
     View_LicenseAssignment();
     setMenus(false, false, false);

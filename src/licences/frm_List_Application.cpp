@@ -3,6 +3,7 @@
 #include "assetlist/ListExport.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/ApplicationCensus.h"
+#include "licences/LicenceRoutines.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
@@ -13,15 +14,15 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
+using LicenceRoutines::Gray;
+using LicenceRoutines::White;
 
 // the grids' place and allowances, in twips
 constexpr int kGridTop = 450;
@@ -58,14 +59,8 @@ void frm_List_Application::buildMenus()
 
 void frm_List_Application::buildControls()
 {
-    auto* layout = new QVBoxLayout(this);
-    layout->setMenuBar(MenuBar);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetNoConstraint);
     // the grids and the boxes above them stand at places computed from the window's size
-    m_client = new QWidget(this);
-    layout->addWidget(m_client, 1);
+    m_client = LicenceRoutines::AddClientArea(*this, MenuBar);
 
     auto shownBox = [this](const char* name) {
         auto* box = new QLineEdit(m_client);
@@ -96,14 +91,8 @@ void frm_List_Application::buildControls()
 
 void frm_List_Application::Form_Load()
 {
-    using Mdl_gData::g;
-    if (g.MainFormWidth > 0)
-        SetWidth(g.MainFormWidth);
-    if (g.MainFormHeight > 0)
-        SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
-    placeControls(g.MainFormWidth, g.MainFormHeight);
+    LicenceRoutines::TakeMainWindowPlace(*this);
+    placeControls(Mdl_gData::g.MainFormWidth, Mdl_gData::g.MainFormHeight);
     CensusReady = false;
     if (View_ApplicationCensus())
         CensusReady = true;
@@ -167,8 +156,8 @@ void frm_List_Application::MSFlexGrid_Applications_Click()
     ApplicationName = census.TextMatrix(row, 1);
     ApplicationCount = census.TextMatrix(row, 2);
     CensusSelectedRow = std::int16_t(row);
-    PaintCensusRow(CensusPreviousRow, kWhite);
-    PaintCensusRow(CensusSelectedRow, kGray);
+    PaintCensusRow(CensusPreviousRow, White);
+    PaintCensusRow(CensusSelectedRow, Gray);
     CensusPreviousRow = CensusSelectedRow;
     tbx_ApplicationName->setText(ApplicationName);
     tbx_ApplicationNum->setText(ApplicationCount);
@@ -186,8 +175,8 @@ void frm_List_Application::MSFlexGrid_User_Click()
     if (!ComputerReady || computers.Row() == 0)
         return;
     ComputerSelectedRow = std::int16_t(computers.Row());
-    PaintComputerRow(ComputerPreviousRow, kWhite);
-    PaintComputerRow(ComputerSelectedRow, kGray);
+    PaintComputerRow(ComputerPreviousRow, White);
+    PaintComputerRow(ComputerSelectedRow, Gray);
     ComputerPreviousRow = ComputerSelectedRow;
 }
 
