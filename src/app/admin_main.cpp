@@ -4,6 +4,7 @@
 #include "assetlist/ExportListCommand.h"
 #include "intake/ReadCommand.h"
 #include "ledger/LedgerCommands.h"
+#include "licences/LicenceExports.h"
 #include "platform/ui/ConsoleDialogs.h"
 
 #include <QApplication>
@@ -18,7 +19,7 @@
 namespace {
 
 // The lists of `export LIST`, each written by its window's own routines.
-std::vector<AdminExport::List> exportLists() { return {MainListExport()}; }
+std::vector<AdminExport::List> exportLists() { return {MainListExport(), LicencesExport(), CensusExport(), CensusComputersExport()}; }
 
 void printUsage(std::FILE* to)
 {
