@@ -360,20 +360,7 @@ void MainList::MSFlexGrid_Main_ini()
 
 // The system paints its selection itself, over whatever colour the cells had: the gray of a
 // retired master entry and the search's yellow are lost once a row has been painted.
-void MainList::PaintGridRow(std::int16_t row, std::int16_t qbColour)
-{
-    if (row < 1)
-        return;
-    ui::FlexGrid& grid = MSFlexGrid_Main;
-    const QColor colour = ui::QBColor(qbColour);
-    grid.SetVisible(false);
-    for (int c = 1; c < grid.Cols(); ++c) {
-        grid.SetRow(row);
-        grid.SetCol(c);
-        grid.SetCellBackColor(colour);
-    }
-    grid.SetVisible(true);
-}
+void MainList::PaintGridRow(std::int16_t row, std::int16_t qbColour) { ui::PaintGridRow(MSFlexGrid_Main, row, qbColour); }
 
 void MainList::MSFlexGrid_Main_Click()
 {

@@ -482,4 +482,19 @@ void FlexGrid::mouseDoubleClickEvent(QMouseEvent* e)
     }
 }
 
+void PaintGridRow(FlexGrid& grid, int row, int qbColour)
+{
+    if (row < 1)
+        return;
+    const QColor colour = QBColor(qbColour);
+    const bool redraw = grid.Redraw();
+    grid.SetRedraw(false);
+    for (int c = 1; c < grid.Cols(); ++c) {
+        grid.SetRow(row);
+        grid.SetCol(c);
+        grid.SetCellBackColor(colour);
+    }
+    grid.SetRedraw(redraw);
+}
+
 } // namespace ui

@@ -145,4 +145,10 @@ private:
     bool m_pressed = false;
 };
 
+// The selection of the list windows: a click paints the previous row white and the new row gray
+// (palette 15 and 8) with this routine. It paints the cells of the row from column 1 on, over
+// whatever colour they had (the gray of a retired master, a search mark), and the grid is drawn
+// once. A row below 1 does nothing.
+void PaintGridRow(FlexGrid& grid, int row, int qbColour);
+
 } // namespace ui
