@@ -25,7 +25,7 @@ void WriteGrid(const ui::FlexGrid& grid, const QString& path)
     file.Close();
 }
 
-void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
+QString ChooseCsvFile(const QString& dialogTitle)
 {
     ui::CommonDialog dialog;
     dialog.CancelError = true;
@@ -34,9 +34,14 @@ void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
     // second entry whose pattern is lost.
     dialog.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
     dialog.FilterIndex = 2;
+    dialog.ShowSave();
+    return dialog.FileName + QStringLiteral(".csv");
+}
+
+void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
+{
     try {
-        dialog.ShowSave();
-        WriteGrid(grid, dialog.FileName + QStringLiteral(".csv"));
+        WriteGrid(grid, ChooseCsvFile(dialogTitle));
     } catch (const vb::VbError& e) {
         if (e.Number() != vb::Err::CancelSelected)
             Mdl_Access_mdb::StandardErrorBox(e);
