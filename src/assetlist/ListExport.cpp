@@ -30,12 +30,7 @@ void WriteGridLines(const ui::FlexGrid& grid, text::AnsiFile& file)
     }
 }
 
-void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
-{
-    ExportFile(dialogTitle, [&grid](const QString& path) { WriteGrid(grid, path); });
-}
-
-void ExportFile(const QString& dialogTitle, const std::function<void(const QString& path)>& write)
+QString ChooseCsvFile(const QString& dialogTitle)
 {
     ui::CommonDialog dialog;
     dialog.CancelError = true;
@@ -44,9 +39,19 @@ void ExportFile(const QString& dialogTitle, const std::function<void(const QStri
     // second entry whose pattern is lost.
     dialog.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
     dialog.FilterIndex = 2;
+    dialog.ShowSave();
+    return dialog.FileName + QStringLiteral(".csv");
+}
+
+void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
+{
+    ExportFile(dialogTitle, [&grid](const QString& path) { WriteGrid(grid, path); });
+}
+
+void ExportFile(const QString& dialogTitle, const std::function<void(const QString& path)>& write)
+{
     try {
-        dialog.ShowSave();
-        write(dialog.FileName + QStringLiteral(".csv"));
+        write(ChooseCsvFile(dialogTitle));
     } catch (const vb::VbError& e) {
         if (e.Number() != vb::Err::CancelSelected)
             Mdl_Access_mdb::StandardErrorBox(e);

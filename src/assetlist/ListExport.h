@@ -24,6 +24,11 @@ void WriteGrid(const ui::FlexGrid& grid, const QString& path);
 // them.
 void WriteGridLines(const ui::FlexGrid& grid, text::AnsiFile& file);
 
+// The save dialog of the system's CSV exports, with the given title: the two filters run
+// together, filter index 2, cancel raising error 32755 (CancelSelected). Answers the chosen name
+// with ".csv" added, whatever it ended in.
+QString ChooseCsvFile(const QString& dialogTitle);
+
 // The export command of a list window: the save dialog with the given title ("CSV書き出し" for the
 // main list), cancel ending in silence, ".csv" added to whatever name was chosen, the file, and
 // "完了しました". A failure shows StandardErrorBox.

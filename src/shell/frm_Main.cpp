@@ -11,6 +11,7 @@
 #include "intake/frm_Open.h"
 #include "licences/frm_Edit_License.h"
 #include "licences/frm_List_Application.h"
+#include "mail/frm_Edit_Mail.h"
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
 #include "platform/app/App.h"
@@ -376,7 +377,7 @@ void frm_Main::Mnu_Edit_License_Click()
 void frm_Main::Mnu_Mail_Manegement_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Edit_Mail").Show(ui::vbModal);
+    frm_Edit_Mail::Instance().Show(ui::vbModal);
 }
 
 void frm_Main::Mnu_Network_Manegement_Click()
