@@ -3,7 +3,9 @@
 // to files, backs the ledger up and checks it.
 #include "assetlist/ExportListCommand.h"
 #include "intake/ReadCommand.h"
+#include "mail/ExportMailCommand.h"
 #include "ledger/LedgerCommands.h"
+#include "licences/LicenceExports.h"
 #include "platform/ui/ConsoleDialogs.h"
 #include "profile/SheetCommand.h"
 
@@ -19,7 +21,13 @@
 namespace {
 
 // The lists of `export LIST`, each written by its window's own routines.
-std::vector<AdminExport::List> exportLists() { return {MainListExport()}; }
+std::vector<AdminExport::List> exportLists()
+{
+    std::vector<AdminExport::List> lists{MainListExport(), LicencesExport(), CensusExport(), CensusComputersExport()};
+    for (AdminExport::List& mail : MailExports())
+        lists.push_back(std::move(mail));
+    return lists;
+}
 
 void printUsage(std::FILE* to)
 {

@@ -12,6 +12,12 @@ namespace ListExport {
 void WriteGrid(const ui::FlexGrid& grid, const QString& path)
 {
     text::AnsiFile file(path);
+    WriteGridLines(grid, file);
+    file.Close();
+}
+
+void WriteGridLines(const ui::FlexGrid& grid, text::AnsiFile& file)
+{
     QString line;
     for (int row = 0; row < grid.Rows(); ++row) {
         line.clear();
@@ -22,10 +28,9 @@ void WriteGrid(const ui::FlexGrid& grid, const QString& path)
         line += u' ';
         file.WriteLine(line);
     }
-    file.Close();
 }
 
-void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
+QString ChooseCsvFile(const QString& dialogTitle)
 {
     ui::CommonDialog dialog;
     dialog.CancelError = true;
@@ -34,9 +39,19 @@ void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
     // second entry whose pattern is lost.
     dialog.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
     dialog.FilterIndex = 2;
+    dialog.ShowSave();
+    return dialog.FileName + QStringLiteral(".csv");
+}
+
+void ExportGrid(const ui::FlexGrid& grid, const QString& dialogTitle)
+{
+    ExportFile(dialogTitle, [&grid](const QString& path) { WriteGrid(grid, path); });
+}
+
+void ExportFile(const QString& dialogTitle, const std::function<void(const QString& path)>& write)
+{
     try {
-        dialog.ShowSave();
-        WriteGrid(grid, dialog.FileName + QStringLiteral(".csv"));
+        write(ChooseCsvFile(dialogTitle));
     } catch (const vb::VbError& e) {
         if (e.Number() != vb::Err::CancelSelected)
             Mdl_Access_mdb::StandardErrorBox(e);

@@ -6,6 +6,7 @@
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/FlexGrid.h"
+#include "platform/ui/GridSelection.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
 #include "platform/vb/Format.h"
@@ -364,15 +365,9 @@ void MainList::PaintGridRow(std::int16_t row, std::int16_t qbColour)
 {
     if (row < 1)
         return;
-    ui::FlexGrid& grid = MSFlexGrid_Main;
-    const QColor colour = ui::QBColor(qbColour);
-    grid.SetVisible(false);
-    for (int c = 1; c < grid.Cols(); ++c) {
-        grid.SetRow(row);
-        grid.SetCol(c);
-        grid.SetCellBackColor(colour);
-    }
-    grid.SetVisible(true);
+    MSFlexGrid_Main.SetVisible(false);
+    ui::PaintGridRow(MSFlexGrid_Main, row, qbColour);
+    MSFlexGrid_Main.SetVisible(true);
 }
 
 void MainList::MSFlexGrid_Main_Click()

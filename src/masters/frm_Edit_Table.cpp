@@ -9,6 +9,7 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FixedSize.h"
 #include "platform/ui/FlexGrid.h"
+#include "platform/ui/GridSelection.h"
 #include "platform/ui/FocusEvents.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
@@ -67,6 +68,9 @@ void frm_Edit_Table::buildControls()
     for (int i = 0; i < 3; ++i) {
         auto* edit = new QLineEdit(this);
         ui::SetArrayName(edit, "tbxEdit", i);
+        // The key shows the code of the clicked row, which update and delete act on; it is not
+        // typed, so that an empty or mistyped key cannot send a name into the reserved row 0.
+        edit->setReadOnly(i == Code);
         ui::FocusEvents::InstallFocusColor(edit, Mdl_Sub::SetFocusColor);
         fields->addRow(QString::fromUtf8(captions[i]), edit);
         tbxEdit[size_t(i)] = edit;
@@ -163,18 +167,6 @@ void frm_Edit_Table::clearEdits()
         e->clear();
 }
 
-void frm_Edit_Table::paintRow(int row, int qbColour)
-{
-    ui::FlexGrid& grid = *MSFlexGrid_Edit;
-    if (row < 1 || row >= grid.Rows())
-        return;
-    for (int c = 0; c < grid.Cols(); ++c) {
-        grid.SetRow(row);
-        grid.SetCol(c);
-        grid.SetCellBackColor(ui::QBColor(qbColour));
-    }
-}
-
 void frm_Edit_Table::MSFlexGrid_Edit_Click()
 {
     ui::FlexGrid& grid = *MSFlexGrid_Edit;
@@ -185,9 +177,9 @@ void frm_Edit_Table::MSFlexGrid_Edit_Click()
     Mnu_Delete->setEnabled(true);
     Mnu_Update->setEnabled(true);
     grid.SetVisible(false);
-    paintRow(m_selectedRow, kWhite);
+    ui::PaintGridRow(grid, m_selectedRow, kWhite);
     m_selectedRow = row;
-    paintRow(row, kGray);
+    ui::PaintGridRow(grid, row, kGray);
     for (int c = 0; c < 3 && c < grid.Cols(); ++c)
         tbxEdit[size_t(c)]->setText(grid.TextMatrix(row, c));
     grid.SetVisible(true);
@@ -205,11 +197,11 @@ void frm_Edit_Table::Mnu_Add_Click()
     const std::int16_t highest = Mdl_Access_mdb::MaxOfFirstColumn(m_table);
     const std::int16_t code = highest >= 0 ? vb::IntAdd(highest, 1) : std::int16_t(0);
     db::Connection& c = DbConnection();
-    c.BeginTrans();
+    db::Transaction insert(c);
     c.Execute(QStringLiteral("INSERT INTO ") + m_table + QStringLiteral(" ( ") + names.value(Code) + QStringLiteral(",")
               + names.value(Flag) + QStringLiteral(") ") + QStringLiteral("VALUES ( ") + QString::number(code)
               + QStringLiteral(",") + QStringLiteral("0") + QStringLiteral(" );"));
-    c.CommitTrans();
+    insert.Commit();
     fillGrid();
 }
 
@@ -220,7 +212,7 @@ void frm_Edit_Table::Mnu_Update_Click()
     const QStringList names = fieldNames();
     if (names.size() > 9)
         throw vb::VbError::SubscriptOutOfRange();
-    const QString key = QString::number(vb::Val(tbxEdit[0]->text()));
+    const QString key = QString::number(vb::CInt(vb::Variant(tbxEdit[0]->text())));
     db::Recordset rs;
     rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM ") + m_table + QStringLiteral(" WHERE (") + QStringLiteral("(")
                 + names.value(Code) + QStringLiteral(") ") + QStringLiteral(" = ") + key + QStringLiteral(" );"),

@@ -57,7 +57,6 @@ private:
     QStringList fieldNames() const;
     void fillGrid();
     void clearEdits();
-    void paintRow(int row, int qbColour);
 
     QString m_table;
     QString m_caption;

@@ -10,6 +10,7 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
+#include "platform/ui/GridSelection.h"
 #include "platform/ui/FocusEvents.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
@@ -29,6 +30,11 @@ namespace {
 
 constexpr int kWhite = 15;
 constexpr int kGray = 8;
+
+// the grid's place and height in the client area, in twips
+constexpr int kGridLeft = 120;
+constexpr int kGridTop = 120;
+constexpr int kGridHeight = 7000;
 
 // The grid's columns after the hidden key in column 0: heading, field, width in twips. The
 // section and division cells turn gray when their master is deleted.
@@ -85,7 +91,9 @@ void frm_Edit_User::buildMenus()
 
 void frm_Edit_User::buildControls()
 {
-    MSFlexGrid_Edit = new ui::FlexGrid(this);
+    // the grid and the fields stand at fixed places in the client area below the menu
+    auto* client = new QWidget(this);
+    MSFlexGrid_Edit = new ui::FlexGrid(client);
     MSFlexGrid_Edit->setObjectName(QStringLiteral("MSFlexGrid_Edit"));
     ui::Connect(MSFlexGrid_Edit, &ui::FlexGrid::Click, this, [this] { MSFlexGrid_Edit_Click(); });
 
@@ -118,8 +126,9 @@ void frm_Edit_User::buildControls()
     ui::Connect(cmb_Section, &QComboBox::activated, this, [this] { cmb_Section_Click(); });
     ui::Connect(cmb_Division, &QComboBox::activated, this, [this] { cmb_Division_Click(); });
 
-    auto* fields = new QGridLayout;
-    fields->setContentsMargins(8, 6, 8, 8);
+    m_fields = new QWidget(client);
+    auto* fields = new QGridLayout(m_fields);
+    fields->setContentsMargins(0, 0, 0, 0);
     fields->setHorizontalSpacing(8);
     fields->addWidget(new QLabel(QStringLiteral("Key"), this), 0, 0);
     fields->addWidget(lbr_Key, 0, 1);
@@ -144,9 +153,19 @@ void frm_Edit_User::buildControls()
     auto* layout = new QVBoxLayout(this);
     layout->setMenuBar(MenuBar);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(MSFlexGrid_Edit, 1);
-    layout->addLayout(fields);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->addWidget(client, 1);
+}
+
+void frm_Edit_User::Form_Resize()
+{
+    // The grid keeps its design height; the edit fields stand below it.
+    const int width = Width() - 320;
+    if (width <= 0)
+        return;
+    MSFlexGrid_Edit->Move(kGridLeft, kGridTop, width, kGridHeight);
+    m_fields->setGeometry(ui::TwipsToPixels(kGridLeft), ui::TwipsToPixels(kGridTop + kGridHeight + 120),
+                          ui::TwipsToPixels(width), m_fields->sizeHint().height());
 }
 
 void frm_Edit_User::Form_Load()
@@ -228,20 +247,6 @@ void frm_Edit_User::clearEdits()
     tbx_Division_Code->clear();
 }
 
-void frm_Edit_User::paintRow(int row, int qbColour)
-{
-    ui::FlexGrid& grid = *MSFlexGrid_Edit;
-    if (row < 1 || row >= grid.Rows())
-        return;
-    grid.SetVisible(false);
-    for (int c = 1; c < grid.Cols(); ++c) {
-        grid.SetRow(row);
-        grid.SetCol(c);
-        grid.SetCellBackColor(ui::QBColor(qbColour));
-    }
-    grid.SetVisible(true);
-}
-
 void frm_Edit_User::MSFlexGrid_Edit_Click()
 {
     ui::FlexGrid& grid = *MSFlexGrid_Edit;
@@ -252,8 +257,8 @@ void frm_Edit_User::MSFlexGrid_Edit_Click()
     Mnu_Update->setEnabled(true);
     m_previousRow = m_selectedRow;
     m_selectedRow = row;
-    paintRow(m_previousRow, kWhite);
-    paintRow(row, kGray);
+    ui::PaintGridRow(grid, m_previousRow, kWhite);
+    ui::PaintGridRow(grid, row, kGray);
     grid.SetRow(row);
     clearEdits();
     lbr_Key->setText(grid.TextMatrix(row, 1));
@@ -326,13 +331,13 @@ void frm_Edit_User::Mnu_Add_Click()
     rs.Close();
     const std::int16_t code = highest.IsNull() ? std::int16_t(0) : vb::IntAdd(vb::CInt(highest), 1);
     db::Connection& c = DbConnection();
-    c.BeginTrans();
+    db::Transaction insert(c);
     c.Execute(QStringLiteral("INSERT INTO ") + QStringLiteral("tbl_User ") + QStringLiteral(" ( ") + QStringLiteral("User_Code")
               + QStringLiteral(",") + QStringLiteral("Available_flug") + QStringLiteral(",") + QStringLiteral("Section_Code")
               + QStringLiteral(",") + QStringLiteral("Division_Code") + QStringLiteral(") ") + QStringLiteral("VALUES ( ")
               + QString::number(code) + QStringLiteral(",") + QStringLiteral("0") + QStringLiteral(",") + QStringLiteral("0")
               + QStringLiteral(",") + QStringLiteral("0") + QStringLiteral(" );"));
-    c.CommitTrans();
+    insert.Commit();
     fillGrid();
 }
 
@@ -371,9 +376,10 @@ void frm_Edit_User::Mnu_Update_Click()
 
 void frm_Edit_User::Mnu_Delete_Click()
 {
-    if (ui::MsgBox(QStringLiteral("削除しますか？"), ui::vbQuestion + ui::vbYesNo, QStringLiteral("確認")) != ui::vbYes)
-        return;
-    if (m_selectedRow >= 1 && m_filled) {
+    // Only the answer Yes deletes; either answer fills the grid again and turns Mnu_Add on.
+    const bool yes =
+        ui::MsgBox(QStringLiteral("削除しますか？"), ui::vbQuestion + ui::vbYesNo, QStringLiteral("確認")) == ui::vbYes;
+    if (yes && m_selectedRow >= 1 && m_filled) {
         const QString key = MSFlexGrid_Edit->TextMatrix(m_selectedRow, 0);
         db::Recordset rs;
         rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM ") + QStringLiteral("tbl_User ") + QStringLiteral(" WHERE (")

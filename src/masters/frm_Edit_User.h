@@ -26,7 +26,8 @@ class FlexGrid;
 // division tables are edited from here too, through the code table editor.
 //
 // Modal, resizable, opening over the main window (its size and place from the main window's
-// globals); the grid takes the width and the height above the edit fields. A failing statement of the grid fill shows StandardErrorBox; the others end the run.
+// globals); the grid follows the window's width at a fixed height, the edit fields below it. A
+// failing statement of the grid fill shows StandardErrorBox; the others end the run.
 class frm_Edit_User : public ui::SingleForm<frm_Edit_User> {
     Q_OBJECT
 
@@ -68,15 +69,16 @@ public:
 
 protected:
     void Form_Load() override;
+    void Form_Resize() override;
 
 private:
     void buildMenus();
     void buildControls();
     void fillGrid();
     void clearEdits();
-    void paintRow(int row, int qbColour);
     void setMenusAfterChange();
 
+    QWidget* m_fields = nullptr;
     bool m_filled = false;
     int m_selectedRow = 0;
     int m_previousRow = 0;

@@ -9,6 +9,9 @@
 #include "foundation/Mdl_gData.h"
 #include "foundation/mdl_ini.h"
 #include "intake/frm_Open.h"
+#include "licences/frm_Edit_License.h"
+#include "licences/frm_List_Application.h"
+#include "mail/frm_Edit_Mail.h"
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
 #include "platform/app/App.h"
@@ -369,13 +372,13 @@ void frm_Main::Mnu_Edit_profile_Click()
 void frm_Main::Mnu_Edit_License_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Edit_License").Show(ui::vbModeless);
+    frm_Edit_License::Instance().Show(ui::vbModeless);
 }
 
 void frm_Main::Mnu_Mail_Manegement_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Edit_Mail").Show(ui::vbModal);
+    frm_Edit_Mail::Instance().Show(ui::vbModal);
 }
 
 void frm_Main::Mnu_Network_Manegement_Click()
@@ -384,7 +387,7 @@ void frm_Main::Mnu_Network_Manegement_Click()
     PlaceholderForm::Instance("frm_Edit_Network").Show(ui::vbModeless);
 }
 
-void frm_Main::View_ApplicationList_Click() { PlaceholderForm::Instance("frm_List_Application").Show(ui::vbModeless); }
+void frm_Main::View_ApplicationList_Click() { frm_List_Application::Instance().Show(ui::vbModeless); }
 
 void frm_Main::Mnu_PrinterList_Click()
 {

@@ -3,6 +3,9 @@
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
 
+#include "assetlist/MainList.h"
+#include "foundation/mdl_ini.h"
+#include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/Twips.h"
 
@@ -22,6 +25,15 @@ protected:
         Mdl_gData::g.CurrentTableCaption = caption;
         frm_Edit_Table::Instance().Show(ui::vbModal);
         return frm_Edit_Table::Instance();
+    }
+    // Deletes the first row the code table editor shows, answering Yes.
+    void deleteFirstRow(const QString& table)
+    {
+        frm_Edit_Table& w = openTable(table, QStringLiteral("-"));
+        click(*w.MSFlexGrid_Edit, 1);
+        dialogs.answerMessage(ui::vbYes);
+        w.Mnu_Delete->trigger();
+        w.Mue_Close->trigger();
     }
 };
 
@@ -97,6 +109,77 @@ TEST_F(Masters, TheFirstAddOnAnEmptyTableWritesTheReservedCodeZeroAndShowsNothin
     EXPECT_EQ(cells(*w.MSFlexGrid_Edit), QStringList{"1|||0"});
 }
 
+TEST_F(Masters, NoCodeFollows32767AndAWiderCodeOverflowsWhereItIsRead)
+{
+    // the increment overflows in the command, which has no handler: the run ends, nothing written
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (32767, '倉庫', '', '0')"));
+    frm_Edit_Table& w = openTable(QStringLiteral("tbl_Location"), QStringLiteral("設置場所"));
+    w.Mnu_Add->trigger();
+    EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
+    ended.clear();
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    EXPECT_TRUE(dialogs.messages()[0].prompt.startsWith(QStringLiteral("実行時エラー '6':")));
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_Location")), QStringLiteral("2"));
+    w.Mue_Close->trigger();
+    flushDeletes();
+
+    // A table whose codes are wider than 16 bits: MaxOfFirstColumn shows the overflow and answers
+    // 0, so the new row takes code 1.
+    dialogs.clear();
+    ledger.exec(QStringLiteral("CREATE TABLE tbl_Wide (Wide_Code INTEGER PRIMARY KEY, Wide_Name TEXT, Wide_Comment TEXT, "
+                               "Available_flug TEXT)"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Wide VALUES (40000, '本館', '', '0')"));
+    frm_Edit_Table& wide = openTable(QStringLiteral("tbl_Wide"), QStringLiteral("広域"));
+    wide.Mnu_Add->trigger();
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
+    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("（エラーコード：6）")));
+    EXPECT_EQ(cells(*wide.MSFlexGrid_Edit), (QStringList{"1|||0", "40000|本館||0"}));
+}
+
+// A soft-deleted master shows gray in the main list wherever a computer uses it, whichever window
+// deleted it; the unset entries of code 0 stay white.
+TEST_F(Masters, SoftDeletedMastersShowGrayInTheMainList)
+{
+    for (const char* table : {"tbl_Location", "tbl_Section", "tbl_Division", "tbl_Manufacturer", "tbl_Model"})
+        ledger.exec(QStringLiteral("INSERT INTO %1 VALUES (1, '一', '', '0')").arg(QLatin1String(table)));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
+                               "VALUES (1, '山田', '0', 1, 1)"));
+    for (int key = 1; key <= 3; ++key) {
+        const int code = key == 1 ? 0 : 1;
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
+                                   "Model_Code, Deleted_Flug) VALUES (%1, %2, %2, %2, %2, 0)")
+                        .arg(key)
+                        .arg(code));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (%1, 'PC%1')").arg(key));
+    }
+    for (const char* table : {"tbl_Location", "tbl_Section", "tbl_Division", "tbl_Manufacturer", "tbl_Model"})
+        deleteFirstRow(QLatin1String(table));
+    frm_Edit_User& users = frm_Edit_User::Instance();
+    users.Show(ui::vbModal);
+    click(*users.MSFlexGrid_Edit, 2);
+    dialogs.answerMessage(ui::vbYes);
+    users.Mnu_delete->trigger();
+    users.Mnu_Close->trigger();
+
+    // view 0: location, section, division, user, maker, model
+    const int columns[] = {1, 2, 3, 4, 13, 14};
+    mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_SelectNum"), QString::number(std::size(columns)));
+    for (size_t i = 0; i < std::size(columns); ++i)
+        mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("MSFlexGrit_Select%1").arg(i + 1), QString::number(columns[i]));
+    ui::FlexGrid grid;
+    MainList list(grid);
+    ASSERT_EQ(list.ShowView(), ui::FillResult::Rows);
+    list.MSFlexGrid_Main_ini();
+    ASSERT_EQ(grid.Rows(), 4);
+    for (int c = 2; c < grid.Cols(); ++c) {
+        EXPECT_EQ(grid.TextMatrix(3, c), c == 5 ? QStringLiteral("山田") : QStringLiteral("一")) << c;
+        EXPECT_EQ(grid.CellBackColorAt(1, c), ui::QBColor(15)) << "computer 1 on the entries of code 0, column " << c;
+        EXPECT_EQ(grid.CellBackColorAt(2, c), ui::QBColor(8)) << "computer 2, column " << c;
+        EXPECT_EQ(grid.CellBackColorAt(3, c), ui::QBColor(8)) << "computer 3, column " << c;
+    }
+}
+
 TEST_F(Masters, TheUserRegisterAddsWithTheReservedSectionAndStoresABlankForAnEmptyField)
 {
     ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0'), (2, '営業部', '', '0')"));
@@ -158,17 +241,25 @@ TEST_F(Masters, ARemovedSectionLeavesItsUsersListedGrayAndADeletedUserLeaves)
     sections.Mnu_Delete->trigger();
     sections.Mue_Close->trigger();
 
-    w.Mnu_Delete_Click();  // nothing chosen: the list is filled again, nothing written
+    // delete answered No: nothing written, but the list is filled again (the section now gray)
+    // and 新規, off since the window opened, turns on
+    EXPECT_FALSE(w.Mnu_Add->isEnabled());
+    click(*w.MSFlexGrid_Edit, 2);
+    dialogs.answerMessage(ui::vbNo);
+    w.Mnu_delete->trigger();
+    EXPECT_TRUE(w.Mnu_Add->isEnabled());
     EXPECT_EQ(w.MSFlexGrid_Edit->Rows(), 4);
     EXPECT_EQ(w.MSFlexGrid_Edit->CellBackColorAt(2, 2), ui::QBColor(8));
     EXPECT_NE(w.MSFlexGrid_Edit->CellBackColorAt(2, 4), ui::QBColor(8));
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_User WHERE Available_flug = '1'")), QStringLiteral("0"));
+    // the grid keeps its design height whatever the window's size
+    EXPECT_NEAR(w.MSFlexGrid_Edit->Height(), 7000, 15);
 
     click(*w.MSFlexGrid_Edit, 3);
     dialogs.answerMessage(ui::vbYes);
     w.Mnu_delete->trigger();
     EXPECT_EQ(cells(*w.MSFlexGrid_Edit, 1), (QStringList{"0||||||||", "1|総務部||山田|||||"}));
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Available_flug FROM tbl_User WHERE User_Code = 2")), QStringLiteral("1"));
-    EXPECT_TRUE(w.Mnu_Add->isEnabled());
 }
 
 } // namespace

@@ -3,9 +3,12 @@
 #include "platform/ui/Twips.h"
 #include "platform/vb/VbError.h"
 
+#include <QAbstractButton>
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionHeader>
 #include <QStyledItemDelegate>
 #include <QTimer>
 
@@ -61,6 +64,38 @@ public:
             return QSize(defaultSectionSize(), minimumHeight());
         return QHeaderView::sizeHint();
     }
+};
+
+// The cell where the first fixed row and column meet stands in the view's corner, which Qt draws
+// as an empty header section; this draws it with the cell's text and colour.
+class CornerCell : public QObject {
+public:
+    CornerCell(FlexGrid* grid, QWidget* corner) : QObject(corner), m_grid(grid) { corner->installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* e) override
+    {
+        if (e->type() != QEvent::Paint)
+            return false;
+        auto* corner = static_cast<QWidget*>(watched);
+        QStyleOptionHeader opt;
+        opt.initFrom(corner);
+        // the corner button is disabled (it would select the whole view); its cell reads as any other
+        opt.state |= QStyle::State_Enabled;
+        opt.palette.setCurrentColorGroup(QPalette::Active);
+        opt.rect = corner->rect();
+        opt.position = QStyleOptionHeader::OnlyOneSection;
+        if (m_grid->Rows() > 0 && m_grid->Cols() > 0 && m_grid->FixedRows() > 0 && m_grid->FixedCols() > 0) {
+            opt.text = m_grid->TextMatrix(0, 0);
+            opt.textAlignment = Qt::AlignCenter;
+        }
+        QPainter painter(corner);
+        corner->style()->drawControl(QStyle::CE_Header, &opt, &painter, corner);
+        return true;
+    }
+
+private:
+    FlexGrid* m_grid;
 };
 
 const int kDefaultWidthTwips = 960;
@@ -185,6 +220,10 @@ FlexGrid::FlexGrid(QWidget* parent) : QTableView(parent), m_model(new FlexGridMo
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setWordWrap(false);
     setCornerButtonEnabled(false);
+    if (auto* corner = findChild<QAbstractButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        new CornerCell(this, corner);
+        m_corner = corner;
+    }
     for (QHeaderView* h : {horizontalHeader(), verticalHeader()}) {
         h->setSectionResizeMode(QHeaderView::Fixed);
         h->setMinimumSectionSize(0);
@@ -238,6 +277,8 @@ void FlexGrid::flush()
     }
     m_model->clearDirty();
     m_dirtyStructure = m_dirtyData = false;
+    if (m_corner)
+        m_corner->update();
 }
 
 void FlexGrid::resizeCells(int rows, int cols)

@@ -129,6 +129,7 @@ private:
     bool cellAt(const QPoint& viewportPos, int& row, int& col) const;
 
     FlexGridModel* m_model;
+    QWidget* m_corner = nullptr;
     std::vector<Cell> m_cells;
     std::vector<int> m_widths;   // twips, -1 for the default
     int m_rows = 0;
@@ -144,5 +145,6 @@ private:
     int m_paints = 0;
     bool m_pressed = false;
 };
+
 
 } // namespace ui

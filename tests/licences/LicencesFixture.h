@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/app/App.h"
+#include "platform/ui/Twips.h"
+#include "platform/vb/Conversion.h"
+
+#include "support/WindowTest.h"
+
+// The windows' fixture with a fixed day (the day an assignment is written) and short helpers that
+// put master rows, computers, inventory rows and licences into the ledger in plain SQL.
+class LicencesFixture : public WindowTest {
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        app::SetNow(vb::MakeDate(2006, 3, 31, 9, 15, 0));
+    }
+    void TearDown() override
+    {
+        WindowTest::TearDown();
+        app::SetNow({});
+    }
+
+    // A row of a master table with code, name, comment and flag ("1": deleted).
+    void master(const char* table, int code, const QString& name, const char* flag = "0")
+    {
+        ledger.exec(QStringLiteral("INSERT INTO %1 VALUES (%2, '%3', '', '%4')").arg(QLatin1String(table)).arg(code).arg(name, QLatin1String(flag)));
+    }
+    void user(int code, const QString& name, const char* flag = "0")
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
+                                   "VALUES (%1, '%2', '%3', 0, 0)")
+                        .arg(code)
+                        .arg(name, QLatin1String(flag)));
+    }
+    // A computer with its two rows, on the code-0 maker and model.
+    void computer(int key, const QString& name, int location = 0, int user = 0, int deleted = 0)
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
+                                   "Deleted_Flug) VALUES (%1, %2, %3, 0, 0, %4)")
+                        .arg(key)
+                        .arg(location)
+                        .arg(user)
+                        .arg(deleted));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (%1, '%2')").arg(key).arg(name));
+    }
+    // An application row of a computer's inventory; name and version are SQL literals.
+    void installed(int computer, const QString& name, const QString& version = QStringLiteral("NULL"))
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES (%1, %2, %3)")
+                        .arg(computer)
+                        .arg(name, version));
+    }
+    // A purchased application; the name is an SQL literal.
+    void purchase(int key, const QString& name, int units)
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_License_Key VALUES (%1, %2, %3)").arg(key).arg(name).arg(units));
+    }
+    // An assignment; the rest is "column = value, ..." for an UPDATE, empty for none.
+    void assignment(int key, int application, int computer, const QString& rest = {})
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_License_Dat (Key, Application_Code, Computer_Code) VALUES (%1, %2, %3)")
+                        .arg(key)
+                        .arg(application)
+                        .arg(computer));
+        if (!rest.isEmpty())
+            ledger.exec(QStringLiteral("UPDATE tbl_License_Dat SET %1 WHERE Key = %2").arg(rest).arg(key));
+    }
+
+    // The fatal report of a run-time error, as the last message box showed it; the end is taken
+    // back so that the fixture does not fail the test for it.
+    QString fatalEnd()
+    {
+        EXPECT_EQ(ended, std::vector<int>{1});
+        ended.clear();
+        const auto boxes = dialogs.messages();
+        return boxes.empty() ? QString() : boxes.back().prompt.section(QLatin1Char('\''), 1, 1);
+    }
+};

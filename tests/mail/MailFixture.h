@@ -1,0 +1,72 @@
+#pragma once
+
+#include "mail/frm_Edit_Mail.h"
+#include "platform/ui/DropDownCombo.h"
+
+#include "support/WindowTest.h"
+
+// A ledger with the mail register's cases: accounts of users and computers that exist, of a
+// retired user, of a retired computer at a retired location, of a user whose section has no row
+// and of a computer that is gone (these two never show), a Windows user name with a comma, and
+// Japanese names. Sorted by address the grid shows keys 5, 1, 2, 0.
+class MailFixture : public WindowTest {
+protected:
+    void fillLedger()
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (1, '本社3F', '', '0'), (2, '大阪支店', '', '0'), "
+                                   "(3, '旧倉庫', '', '1')"));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0'), (2, '営業部', '', '1')"));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Division VALUES (1, '庶務課', '', '0'), (2, '第一営業課', '', '0')"));
+        ledger.exec(QStringLiteral(
+            "INSERT INTO tbl_User (User_Code, User_Name, kana, Available_flug, Section_Code, Division_Code) VALUES "
+            "(1, '山田 太郎', 'やまだ たろう', '0', 1, 1), (2, '佐藤 花子', 'さとう はなこ', '0', 2, 2), "
+            "(3, '高橋 誠', 'たかはし まこと', '1', 1, 1), (4, '鈴木 一郎', 'すずき いちろう', '0', 9, 1)"));
+        computer(1, 1, 0, QStringLiteral("'PC-SOUMU-01', '192.168.0.10', 'Windows XP'"));
+        computer(2, 2, 0, QStringLiteral("'SALES-PC07', '10.1.20.107', 'Windows 2000'"));
+        computer(3, 3, 1, QStringLiteral("'PC-OLD', NULL, NULL"));
+        ledger.exec(QStringLiteral(
+            "INSERT INTO tbl_Mail_Management (\"Key\", User_Code, Conputer_Code, beat_loginID, Windows_UserName, "
+            "beat_loginPassward, Mail_Address, SMTP_IPAddress, POP3_IPAddress, Mailbox_AccountName, Mailbox_Password) VALUES "
+            "(0, 1, 1, 'yamada01', 'yamada,t', 'yt2004', 'yamada@example.jp', 'smtp.example.jp', 'pop.example.jp', 'yamada', 'mb-7731'), "
+            "(1, 2, 2, 'sato01', 'sato-h', 'hana07', 'sato@example.jp', '10.1.20.1', '10.1.20.1', 'sato', 'mb-1206'), "
+            "(2, 3, 1, 'takahashi', 'takahashi', 'mako88', 'takahashi@example.jp', 'smtp.example.jp', 'pop.example.jp', "
+            "'takahashi', 'mb-0912'), "
+            "(3, 4, 1, 'suzuki01', 'suzuki', 'ichi99', 'suzuki@example.jp', NULL, NULL, NULL, NULL), "
+            "(4, 1, 7, 'yamada02', 'yamada', 'yt2004', 'yamada2@example.jp', NULL, NULL, NULL, NULL), "
+            "(5, 2, 3, 'sato02', 'sato-h', '', 'sato2@example.jp', NULL, NULL, NULL, NULL)"));
+    }
+    // A computer with its two rows: name, address and OS as the values of an INSERT.
+    void computer(int key, int location, int retired, const QString& nameAddressOs)
+    {
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
+                                   "Model_Code, Deleted_Flug) VALUES (%1, %2, 0, 0, 0, %3)")
+                        .arg(key)
+                        .arg(location)
+                        .arg(retired));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name, ipaddress, Operating_System) VALUES (%1, %2)")
+                        .arg(key)
+                        .arg(nameAddressOs));
+    }
+    frm_Edit_Mail& open()
+    {
+        frm_Edit_Mail::Instance().Show(ui::vbModal);
+        return frm_Edit_Mail::Instance();
+    }
+    // Opens a combo's list (its drop-down fill) and picks the entry with this text.
+    static void pick(ui::DropDownCombo& combo, const QString& text)
+    {
+        combo.showPopup();
+        combo.hidePopup();
+        const int at = combo.findText(text);
+        ASSERT_GE(at, 0) << text.toStdString();
+        combo.setCurrentIndex(at);
+        Q_EMIT combo.activated(at);
+    }
+    static QStringList items(const QComboBox& combo)
+    {
+        QStringList out;
+        for (int i = 0; i < combo.count(); ++i)
+            out << combo.itemText(i);
+        return out;
+    }
+};
