@@ -7,6 +7,7 @@
 #include "ledger/LedgerCommands.h"
 #include "licences/LicenceExports.h"
 #include "platform/ui/ConsoleDialogs.h"
+#include "profile/SheetCommand.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -42,6 +43,7 @@ void printUsage(std::FILE* to)
                  "  export LIST [--ledger PATH] [--ini PATH] [options] OUT   write a window's list to OUT as the window exports it\n"
                  "      LIST: %s\n"
                  "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   the same as export main\n"
+                 "  sheet [--ledger PATH] MAINKEY... OUT.pdf   the printed sheets of computers, in one PDF\n"
                  "  backup [--ledger PATH] OUT   copy a ledger, in use or not, to the new file OUT\n"
                  "  check [--ledger PATH]   check the file and the ledger's consistency\n",
                  lists.constData());
@@ -51,10 +53,12 @@ void printUsage(std::FILE* to)
 
 int main(int argc, char** argv)
 {
-    // The exports fill the windows' grids, widgets, so those commands run under the widget
-    // application on the offscreen platform: they need no display and show nothing. The others
-    // need no more than the core application.
-    const bool widgets = argc > 1 && (std::strcmp(argv[1], "export") == 0 || std::strcmp(argv[1], "export-list") == 0);
+    // The exports fill the windows' grids and the sheets are drawn from the profile window's
+    // controls, widgets, so those commands run under the widget application on the offscreen
+    // platform: they need no display and show nothing. The others need no more than the core
+    // application.
+    const bool widgets = argc > 1 && (std::strcmp(argv[1], "export") == 0 || std::strcmp(argv[1], "export-list") == 0
+                                      || std::strcmp(argv[1], "sheet") == 0);
     if (widgets)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::unique_ptr<QCoreApplication> application =
@@ -73,6 +77,7 @@ int main(int argc, char** argv)
         {"read", ReadCommand},
         {"export", [](const QStringList& a) { return AdminExport::ExportCommand(exportLists(), a); }},
         {"export-list", [](const QStringList& a) { return AdminExport::Run("export-list", MainListExport(), a); }},
+        {"sheet", SheetCommand},
         {"backup", ledger::BackupCommand},
         {"check", ledger::CheckCommand},
     };

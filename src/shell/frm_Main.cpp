@@ -23,6 +23,7 @@
 #include "platform/ui/StatusBar.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
+#include "profile/frm_Edit_Computer.h"
 #include "shell/PlaceholderForm.h"
 #include "shell/frmAbout.h"
 
@@ -363,7 +364,7 @@ void frm_Main::Mnu_Edit_profile_Click()
     Mdl_gData::g.SelectedMainKey = m_list->CurrentMainKey;
     Mdl_gData::g.SelectedGridRow = m_list->CurrentRow;
     if (m_list->CurrentMainKey > 0) {
-        PlaceholderForm::Instance("frm_Edit_Computer").Show(ui::vbModeless);
+        frm_Edit_Computer::Instance().Show(ui::vbModeless);
         Mnu_Edit_profile->setEnabled(false);
     }
 }
