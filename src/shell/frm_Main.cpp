@@ -14,6 +14,8 @@
 #include "mail/frm_Edit_Mail.h"
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
+#include "network/frm_Edit_Network.h"
+#include "network/frm_List_Printer.h"
 #include "platform/app/App.h"
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
@@ -383,7 +385,7 @@ void frm_Main::Mnu_Mail_Manegement_Click()
 void frm_Main::Mnu_Network_Manegement_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Edit_Network").Show(ui::vbModeless);
+    frm_Edit_Network::Instance().Show(ui::vbModeless);
 }
 
 void frm_Main::View_ApplicationList_Click() { frm_List_Application::Instance().Show(ui::vbModeless); }
@@ -391,7 +393,7 @@ void frm_Main::View_ApplicationList_Click() { frm_List_Application::Instance().S
 void frm_Main::Mnu_PrinterList_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_List_Printer").Show(ui::vbModeless);
+    frm_List_Printer::Instance().Show(ui::vbModeless);
 }
 
 void frm_Main::Mnu_About_Click() { frmAbout::Instance().Show(ui::vbModal); }
