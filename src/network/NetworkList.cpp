@@ -1,5 +1,6 @@
 #include "network/NetworkList.h"
 
+#include "assetlist/ListFill.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Connection.h"
@@ -48,13 +49,11 @@ void paint(ui::FlexGrid& grid, int row, int col, int alignment, bool gray)
 // number on gray.
 ui::FillResult fillGrid(ui::FlexGrid& grid, const QString& sql, int shownColumns, bool keyInColumnZero)
 {
-    db::Recordset rs;
-    try {
+    return RunListFill(grid, [&](db::Recordset& rs) {
         rs.Open(sql, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             grid.SetCols(0);
             grid.SetRows(0);
-            rs.Close();
             return ui::FillResult::NoRows;
         }
         grid.SetRedraw(false);
@@ -82,15 +81,8 @@ ui::FillResult fillGrid(ui::FlexGrid& grid, const QString& sql, int shownColumns
                 paint(grid, row, c, ui::flexAlignLeftBottom, false);
             }
         }
-        grid.SetRedraw(true);
-        rs.Close();
         return ui::FillResult::Rows;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
+    });
 }
 
 // The installed computers with their masters' names. A computer whose location, user (with the

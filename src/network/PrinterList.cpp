@@ -1,6 +1,6 @@
 #include "network/PrinterList.h"
 
-#include "foundation/Mdl_Access_mdb.h"
+#include "assetlist/ListFill.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/Twips.h"
@@ -27,8 +27,7 @@ void setCell(ui::FlexGrid& grid, int row, int col, const QString& value, int qbC
 
 ui::FillResult View_PrinterList(ui::FlexGrid& grid)
 {
-    db::Recordset rs;
-    try {
+    return RunListFill(grid, [&grid](db::Recordset& rs) {
         rs.Open(QStringLiteral("SELECT DISTINCT tbl_Printer_Management.Key, tbl_Printer_Management.Printer_Name, "
                                "tbl_Printer_Management.PrinterPorts_Name, tbl_Pclist.MainKey, tbl_Pclist.Computer_Name, "
                                "tbl_Computer_List.Deleted_Flug FROM tbl_Pclist, tbl_Computer_List, tbl_Printer_Management "
@@ -36,10 +35,8 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
                                "tbl_Computer_List.MainKey) AND (tbl_Computer_List.Deleted_Flug = 0)) ORDER BY "
                                "tbl_Printer_Management.PrinterPorts_Name;"),
                 Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        if (rs.RecordCount() == 0) {
-            rs.Close();
+        if (rs.RecordCount() == 0)
             return ui::FillResult::NoRows;
-        }
         const int printer = rs.FieldIndex(u"Printer_Name");
         const int port = rs.FieldIndex(u"PrinterPorts_Name");
         const int computer = rs.FieldIndex(u"Computer_Name");
@@ -75,13 +72,6 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
         }
         for (int row = 0; row < grid.Rows(); ++row)
             setCell(grid, row, 0, QString::number(row), kGray);
-        grid.SetRedraw(true);
-        rs.Close();
         return ui::FillResult::Rows;
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
+    });
 }

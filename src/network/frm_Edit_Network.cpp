@@ -12,7 +12,7 @@
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/FocusEvents.h"
-#include "platform/ui/Fonts.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/GridSelection.h"
 #include "platform/ui/KeyPressFilter.h"
 #include "platform/ui/Menus.h"
@@ -25,7 +25,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
 
@@ -98,7 +97,7 @@ void frm_Edit_Network::buildControls()
 {
     // The grids stand where the sums of Form_Resize put them, below the menu bar; the fields
     // fill the band above the register, two lines of six.
-    m_client = new QWidget(this);
+    m_client = ui::AddClientArea(this, MenuBar);
     m_fields = new QWidget(m_client);
     auto* fields = new QGridLayout(m_fields);
     fields->setContentsMargins(0, 0, 0, 0);
@@ -133,22 +132,13 @@ void frm_Edit_Network::buildControls()
         ++at;
     }
 
-    MSFlexGrid_NetworkUnit = new ui::FlexGrid(m_client);
-    MSFlexGrid_NetworkUnit->setObjectName(QStringLiteral("MSFlexGrid_NetworkUnit"));
-    MSFlexGrid_NetworkUnit->setFont(ui::MsGothic());
+    MSFlexGrid_NetworkUnit = ui::AddGrid(m_client, "MSFlexGrid_NetworkUnit");
     ui::Connect(MSFlexGrid_NetworkUnit, &ui::FlexGrid::Click, this, [this] { MSFlexGrid_NetworkUnit_Click(); });
-    MSFlexGrid_Network = new ui::FlexGrid(m_client);
-    MSFlexGrid_Network->setObjectName(QStringLiteral("MSFlexGrid_Network"));
-    MSFlexGrid_Network->setFont(ui::MsGothic());
+    MSFlexGrid_Network = ui::AddGrid(m_client, "MSFlexGrid_Network");
     for (ui::FlexGrid* grid : {MSFlexGrid_NetworkUnit, MSFlexGrid_Network}) {
         grid->SetRows(0);
         grid->SetCols(0);
     }
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setMenuBar(MenuBar);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_client, 1);
 }
 
 void frm_Edit_Network::Form_Load()

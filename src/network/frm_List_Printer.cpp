@@ -4,13 +4,12 @@
 #include "foundation/Mdl_gData.h"
 #include "network/PrinterList.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/ui/Fonts.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/Menus.h"
 
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-#include <QVBoxLayout>
 
 frm_List_Printer::frm_List_Printer()
 {
@@ -25,16 +24,9 @@ frm_List_Printer::frm_List_Printer()
 
     // The grid stands where Form_Resize puts it, below the menu bar. Until a fill finds printers
     // it is empty: no rows, no columns.
-    auto* client = new QWidget(this);
-    MSFlexGrid_Printer = new ui::FlexGrid(client);
-    MSFlexGrid_Printer->setObjectName(QStringLiteral("MSFlexGrid_Printer"));
-    MSFlexGrid_Printer->setFont(ui::MsGothic());
+    MSFlexGrid_Printer = ui::AddGrid(ui::AddClientArea(this, MenuBar), "MSFlexGrid_Printer");
     MSFlexGrid_Printer->SetRows(0);
     MSFlexGrid_Printer->SetCols(0);
-    auto* layout = new QVBoxLayout(this);
-    layout->setMenuBar(MenuBar);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(client, 1);
 }
 
 void frm_List_Printer::Form_Load()
