@@ -5,6 +5,7 @@
 //
 //   bench_mainlist [--computers N] [--runs R]
 //   bench_mainlist --make-demo DIR     a ledger of 50 computers and a DB.ini view, for a screenshot
+#include "BenchTiming.h"
 #include "LedgerGenerator.h"
 
 #include "assetlist/ListQuery.h"
@@ -27,26 +28,13 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <vector>
 
 namespace {
 
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-double ms(const QElapsedTimer& t) { return double(t.nsecsElapsed()) / 1e6; }
-
-// CPU time of the process, which other work on a shared machine does not inflate.
-double cpuMs()
-{
-    timespec ts{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
-    return double(ts.tv_sec) * 1e3 + double(ts.tv_nsec) / 1e6;
-}
+using timing::cpuMs;
+using timing::median;
+using timing::ms;
 
 bool newLedger(const QString& folder, int computers)
 {

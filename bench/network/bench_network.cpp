@@ -6,6 +6,7 @@
 //
 //   bench_network [--computers N] [--devices D] [--runs R]
 //   bench_network --make-demo DIR     a ledger of 50 computers, 12 devices and their printers
+#include "BenchTiming.h"
 #include "LedgerGenerator.h"
 
 #include "foundation/Mdl_Access_mdb.h"
@@ -28,25 +29,13 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <vector>
 
 namespace {
 
-double median(std::vector<double> v)
-{
-    std::sort(v.begin(), v.end());
-    return v[v.size() / 2];
-}
-
-double ms(const QElapsedTimer& t) { return double(t.nsecsElapsed()) / 1e6; }
-
-double cpuMs()
-{
-    timespec ts{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
-    return double(ts.tv_sec) * 1e3 + double(ts.tv_nsec) / 1e6;
-}
+using timing::cpuMs;
+using timing::median;
+using timing::ms;
 
 // Devices of the register: routers, printers, hubs and servers on the computers' subnets and on
 // 10.x, one in twenty without an address. One transaction, plain statements.
