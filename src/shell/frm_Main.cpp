@@ -8,6 +8,7 @@
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "foundation/mdl_ini.h"
+#include "intake/frm_Inport.h"
 #include "intake/frm_Open.h"
 #include "licences/frm_Edit_License.h"
 #include "licences/frm_List_Application.h"
@@ -324,7 +325,7 @@ void frm_Main::Mnu_Read_Sondex_Click() { frm_Open::Instance().Show(ui::vbModal);
 void frm_Main::Mnu_View_INPORT_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Inport").Show(ui::vbModeless);
+    frm_Inport::Instance().Show(ui::vbModeless);
 }
 
 // The list commands work on the list, which exists once the load has passed the previous-instance
