@@ -32,7 +32,7 @@ constexpr Heading kComparisonHeadings[ComparisonColumns] = {
     {"No", 500}, {"項目名", 1500}, {"Key", 1500}, {"PCのデータ", 2000}, {"読込んだデータ", 2000}};
 constexpr Heading kApplicationHeadings[] = {{"", 450}, {"アプリケーション名", 4000}, {"バージョン", 1000}, {"インストール場所", 2000}};
 
-QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
+QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void setCell(ui::FlexGrid& grid, int row, int col, const QString& value)
 {
@@ -117,11 +117,11 @@ void FillComputerList(const std::function<void(const QString& entry, std::int16_
             if (key == 0)
                 continue;
             // a computer without a name is listed with an empty one
-            const QString name = text(rs.Fields(u"Computer_Name").Value());
+            const QString name = fieldText(rs.Fields(u"Computer_Name").Value());
             if (name.size() > kNameWidth)
                 throw vb::VbError::InvalidProcedureCall();
-            add(name + QString(kNameWidth - name.size(), QLatin1Char(' ')) + text(rs.Fields(u"Location_Name").Value())
-                    + QStringLiteral(" ") + text(rs.Fields(u"User_Name").Value()),
+            add(name + QString(kNameWidth - name.size(), QLatin1Char(' ')) + fieldText(rs.Fields(u"Location_Name").Value())
+                    + QStringLiteral(" ") + fieldText(rs.Fields(u"User_Name").Value()),
                 key);
         }
         rs.Close();
@@ -163,7 +163,7 @@ bool FillPcColumn(ui::FlexGrid& grid, const QString& key)
             writeRowHead(grid, row, true);
             // both tables have an Update; the row shows the inventory's
             const QString value =
-                text(rs.Fields(row.field == QLatin1String("Update") ? QStringView(u"tbl_Pclist.Update") : row.field).Value());
+                fieldText(rs.Fields(row.field == QLatin1String("Update") ? QStringView(u"tbl_Pclist.Update") : row.field).Value());
             if (!value.isEmpty())
                 setCell(grid, row.row, LedgerValue, value);
         }
@@ -216,7 +216,7 @@ ui::FillResult FillApplicationGrid(ui::FlexGrid& grid)
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             setCell(grid, row, 0, QString::number(row));
             grid.SetCellBackColor(ui::QBColor(kGray));
-            const QString name = text(rs.Value(subItem)), version = text(rs.Value(contents)), path = text(rs.Value(unit));
+            const QString name = fieldText(rs.Value(subItem)), version = fieldText(rs.Value(contents)), path = fieldText(rs.Value(unit));
             if (!name.isEmpty())
                 setCell(grid, row, 1, name);
             // the version shows when there is a path, and the path when there is a version

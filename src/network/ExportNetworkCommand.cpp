@@ -1,11 +1,9 @@
 #include "network/ExportNetworkCommand.h"
 
 #include "assetlist/ListExport.h"
-#include "foundation/Mdl_Access_mdb.h"
 #include "network/NetworkList.h"
 #include "network/PrinterList.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/vb/VbError.h"
 
 #include <QWidget>
 
@@ -19,15 +17,7 @@ bool writeList(const std::function<ui::FillResult(ui::FlexGrid&)>& fill, const Q
     ui::FlexGrid grid(&host);
     grid.SetRows(0);
     grid.SetCols(0);
-    if (fill(grid) == ui::FillResult::Failed)
-        return false;
-    try {
-        ListExport::WriteGrid(grid, out);
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        return false;
-    }
-    return true;
+    return fill(grid) != ui::FillResult::Failed && ListExport::SaveGrid(grid, out);
 }
 
 bool writeNetworkList(const app::CommandLine& command, const QString& out)

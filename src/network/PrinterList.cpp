@@ -11,7 +11,7 @@ namespace {
 constexpr int kWhite = 15;
 constexpr int kGray = 8;
 
-QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
+QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void setCell(ui::FlexGrid& grid, int row, int col, const QString& value, int qbColour, int alignment = -1)
 {
@@ -51,18 +51,18 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
         grid.SetColWidth(0, 600);
         for (; !rs.Eof(); rs.MoveNext()) {
             // a Null port reads as "" and is skipped with the empty ones
-            const QString portName = text(rs.Value(port));
+            const QString portName = fieldText(rs.Value(port));
             if (!portName.isEmpty()) {
                 if (portName != lastPort) {
                     ++column;
                     grid.SetCols(++columns);
                     counter = 0;
                     grid.SetColWidth(column, 1500);
-                    setCell(grid, 0, column, text(rs.Value(printer)), kGray);
+                    setCell(grid, 0, column, fieldText(rs.Value(printer)), kGray);
                     setCell(grid, 1, column, portName, kGray, ui::flexAlignCenterBottom);
                     lastPort = portName;
                 }
-                setCell(grid, counter + 2, column, text(rs.Value(computer)), kWhite, ui::flexAlignLeftBottom);
+                setCell(grid, counter + 2, column, fieldText(rs.Value(computer)), kWhite, ui::flexAlignLeftBottom);
             }
             ++counter;
             if (counter >= tallest) {

@@ -14,6 +14,9 @@ QWidget* AddClientArea(QWidget* form, QMenuBar* menuBar)
     auto* layout = new QVBoxLayout(form);
     layout->setMenuBar(menuBar);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    // the window may be made as small as the user likes; the controls then stand cut off
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(client, 1);
     return client;
 }
