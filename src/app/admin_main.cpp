@@ -6,6 +6,7 @@
 #include "mail/ExportMailCommand.h"
 #include "ledger/LedgerCommands.h"
 #include "licences/LicenceExports.h"
+#include "network/ExportNetworkCommand.h"
 #include "platform/ui/ConsoleDialogs.h"
 #include "profile/SheetCommand.h"
 
@@ -26,6 +27,8 @@ std::vector<AdminExport::List> exportLists()
     std::vector<AdminExport::List> lists{MainListExport(), LicencesExport(), CensusExport(), CensusComputersExport()};
     for (AdminExport::List& mail : MailExports())
         lists.push_back(std::move(mail));
+    lists.push_back(NetworkListExport());
+    lists.push_back(PrinterListExport());
     return lists;
 }
 

@@ -16,6 +16,17 @@ void WriteGrid(const ui::FlexGrid& grid, const QString& path)
     file.Close();
 }
 
+bool SaveGrid(const ui::FlexGrid& grid, const QString& path)
+{
+    try {
+        WriteGrid(grid, path);
+    } catch (const vb::VbError& e) {
+        Mdl_Access_mdb::StandardErrorBox(e);
+        return false;
+    }
+    return true;
+}
+
 void WriteGridLines(const ui::FlexGrid& grid, text::AnsiFile& file)
 {
     QString line;

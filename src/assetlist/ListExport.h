@@ -20,6 +20,9 @@ namespace ListExport {
 // Writes the grid to path, replacing a file of that name. Throws vb::VbError when the file cannot
 // be made or written. A grid without rows writes an empty file.
 void WriteGrid(const ui::FlexGrid& grid, const QString& path);
+// The same for a grid filled without a window (the companion program's exports): a failure shows
+// StandardErrorBox and answers false.
+bool SaveGrid(const ui::FlexGrid& grid, const QString& path);
 // The grid's lines onto a file already open, for a file form that puts lines of its own around
 // them.
 void WriteGridLines(const ui::FlexGrid& grid, text::AnsiFile& file);

@@ -5,11 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 
-FileListBox::FileListBox(QWidget* parent) : QListWidget(parent)
-{
-    setSelectionMode(QAbstractItemView::ExtendedSelection);
-    connect(this, &QListWidget::itemClicked, this, &FileListBox::Click);
-}
+FileListBox::FileListBox(QWidget* parent) : ui::ListBox(parent) { setSelectionMode(QAbstractItemView::ExtendedSelection); }
 
 void FileListBox::SetPath(const QString& path)
 {
@@ -34,12 +30,4 @@ void FileListBox::Refresh()
     const QStringList patterns = m_pattern.split(QLatin1Char(';'), Qt::SkipEmptyParts);
     // QDir's name filters ignore letter case unless told otherwise
     addItems(QDir(m_path).entryList(patterns, QDir::Files, QDir::Name | QDir::IgnoreCase));
-}
-
-void FileListBox::keyPressEvent(QKeyEvent* e)
-{
-    const int before = currentRow();
-    QListWidget::keyPressEvent(e);
-    if (currentRow() >= 0 && currentRow() != before)
-        Q_EMIT Click();
 }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QListWidget>
+#include "platform/ui/ListBox.h"
+
 #include <QString>
 
 // The file list of the read window: the files of one folder that match the pattern, by name,
-// several selectable at once (Ctrl and Shift with the mouse or the keys). Click is emitted when
-// an entry is clicked, or when the keys move to another entry; refilling the list, or giving it
-// the focus, is no click.
-class FileListBox : public QListWidget {
+// several selectable at once (Ctrl and Shift with the mouse or the keys), with the list box's
+// Click.
+class FileListBox : public ui::ListBox {
     Q_OBJECT
 
 public:
@@ -22,12 +22,6 @@ public:
     void SetPattern(const QString& pattern);
     // Lists the folder again.
     void Refresh();
-
-Q_SIGNALS:
-    void Click();
-
-protected:
-    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     QString m_path;

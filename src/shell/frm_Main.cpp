@@ -8,12 +8,15 @@
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "foundation/mdl_ini.h"
+#include "intake/frm_Inport.h"
 #include "intake/frm_Open.h"
 #include "licences/frm_Edit_License.h"
 #include "licences/frm_List_Application.h"
 #include "mail/frm_Edit_Mail.h"
 #include "masters/frm_Edit_Table.h"
 #include "masters/frm_Edit_User.h"
+#include "network/frm_Edit_Network.h"
+#include "network/frm_List_Printer.h"
 #include "platform/app/App.h"
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
@@ -323,7 +326,7 @@ void frm_Main::Mnu_Read_Sondex_Click() { frm_Open::Instance().Show(ui::vbModal);
 void frm_Main::Mnu_View_INPORT_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Inport").Show(ui::vbModeless);
+    frm_Inport::Instance().Show(ui::vbModeless);
 }
 
 // The list commands work on the list, which exists once the load has passed the previous-instance
@@ -384,7 +387,7 @@ void frm_Main::Mnu_Mail_Manegement_Click()
 void frm_Main::Mnu_Network_Manegement_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_Edit_Network").Show(ui::vbModeless);
+    frm_Edit_Network::Instance().Show(ui::vbModeless);
 }
 
 void frm_Main::View_ApplicationList_Click() { frm_List_Application::Instance().Show(ui::vbModeless); }
@@ -392,7 +395,7 @@ void frm_Main::View_ApplicationList_Click() { frm_List_Application::Instance().S
 void frm_Main::Mnu_PrinterList_Click()
 {
     rememberGeometry(true);
-    PlaceholderForm::Instance("frm_List_Printer").Show(ui::vbModeless);
+    frm_List_Printer::Instance().Show(ui::vbModeless);
 }
 
 void frm_Main::Mnu_About_Click() { frmAbout::Instance().Show(ui::vbModal); }

@@ -13,3 +13,6 @@ struct AdminRun {
 };
 
 AdminRun Admin(const QStringList& args, const QString& program = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"));
+// The same on a disk that fills up: no file of the process may grow past limit bytes (RLIMIT_FSIZE,
+// with SIGXFSZ ignored so that a write past it fails instead of killing the process).
+AdminRun AdminWithFileLimit(const QStringList& args, qint64 limit);

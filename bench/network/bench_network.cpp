@@ -1,0 +1,297 @@
+// The rebuild of the merged address list over a generated ledger (2,560 computers, the list's
+// limit, and 500 network devices), then the lower grid of the network window filled from it and
+// painted once, offscreen: what "一覧更新" costs. Beside it the floor: the same rows written by a
+// plain SQLite program (C API, one prepared INSERT, one transaction, the ledger's journal
+// settings). Prints the median of several runs of each; the two lists are compared row by row.
+//
+//   bench_network [--computers N] [--devices D] [--runs R]
+//   bench_network --make-demo DIR     a ledger of 50 computers, 12 devices and their printers
+#include "../BenchTiming.h"
+#include "LedgerGenerator.h"
+
+#include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_gData.h"
+#include "ledger/LedgerFile.h"
+#include "network/NetworkList.h"
+#include "platform/app/App.h"
+#include "platform/db/Connection.h"
+#include "platform/ui/FlexGrid.h"
+#include "platform/vb/VbError.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+namespace {
+
+using BenchTiming::cpuMs;
+using BenchTiming::median;
+using BenchTiming::ms;
+
+// Devices of the register: routers, printers, hubs and servers on the computers' subnets and on
+// 10.x, one in twenty without an address. One transaction, plain statements.
+void addDevices(db::Connection& c, int devices)
+{
+    const char* const kinds[] = {"ルータ", "プリンタ", "HUB", "NAS", "サーバ", "無線AP"};
+    const char* const makers[] = {"YAMAHA", "EPSON", "CANON", "BUFFALO", "Cisco", "NEC"};
+    c.BeginTrans();
+    for (int k = 0; k < devices; ++k) {
+        QString address, key;
+        if (k % 20 != 19) {
+            const int a = k % 3 == 0 ? 10 : 192, b = a == 10 ? 1 + k % 7 : 168, s = 1 + k % 11, h = 200 + k % 50;
+            address = QStringLiteral("%1.%2.%3.%4").arg(a).arg(b).arg(s).arg(h);
+            key = QStringLiteral("%1%2%3%4").arg(a, 2, 16, QLatin1Char('0')).arg(b, 2, 16, QLatin1Char('0'))
+                      .arg(s, 2, 16, QLatin1Char('0')).arg(h, 2, 16, QLatin1Char('0')).toUpper();
+        }
+        const QString kind = QString::fromUtf8(kinds[k % 6]);
+        c.Execute(QStringLiteral("INSERT INTO tbl_NetworkUnit ([Key], Deleted_Flug, Location_Name, User_Name, Computer_Name, "
+                                 "WorkGroup, IPAddress, IPAddress_16num, MacAddress, Manufacturer_Name, Model_Name, "
+                                 "Type_Number, Sereals_Number, ID, PassWord) VALUES (%1, 0, '本社%2F', '情報システム', "
+                                 "'%3-%4', 'WORKGROUP', '%5', '%6', '00:A0:DE:%7:%8:%9', '%10', 'M-%11', 'T-%11', "
+                                 "'S%12', 'admin', 'pw%1')")
+                      .arg(k)
+                      .arg(1 + k % 4)
+                      .arg(kind)
+                      .arg(k, 3, 10, QLatin1Char('0'))
+                      .arg(address, key)
+                      .arg(k / 256 % 256, 2, 16, QLatin1Char('0'))
+                      .arg(k % 256, 2, 16, QLatin1Char('0'))
+                      .arg(k % 100, 2, 10, QLatin1Char('0'))
+                      .arg(QString::fromUtf8(makers[k % 6]))
+                      .arg(100 + k % 30)
+                      .arg(700000 + k));
+    }
+    c.CommitTrans();
+}
+
+// Two printers for most computers: a shared laser printer of the floor, and a local one.
+void addPrinters(db::Connection& c, int computers)
+{
+    c.BeginTrans();
+    for (int k = 1; k <= computers; ++k) {
+        const int floor = 1 + k % 4;
+        c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
+                                 "VALUES (%1, '2005/12/04', 'EPSON LP-9000C %2F', 'IP_192.168.%2.201')")
+                      .arg(k)
+                      .arg(floor));
+        if (k % 3 != 0)
+            c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
+                                     "VALUES (%1, '2005/12/04', '%2', '%3')")
+                          .arg(k)
+                          .arg(k % 2 ? QStringLiteral("Canon LBP-1310") : QStringLiteral("Microsoft Office Document Image Writer"),
+                               k % 2 ? QStringLiteral("LPT1:") : QStringLiteral("Ne00:")));
+    }
+    c.CommitTrans();
+}
+
+QString newLedger(const QString& folder, int computers, int devices, bool printers)
+{
+    const QString path = folder + QStringLiteral("/pcdb.mdb");
+    const QString error = ledger::CreateLedger(path);
+    if (!error.isEmpty()) {
+        std::fprintf(stderr, "%s\n", qPrintable(error));
+        return {};
+    }
+    db::Connection c;
+    c.Open(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + path);
+    LedgerGenerator::Generate(c, computers);
+    addDevices(c, devices);
+    if (printers)
+        addPrinters(c, computers);
+    c.Close();
+    return path;
+}
+
+// The floor: the same list written by plain SQLite. Returns the milliseconds it took, or -1.
+double floorRebuild(const QString& path)
+{
+    sqlite3* db = nullptr;
+    if (sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
+        return -1;
+    sqlite3_exec(db, "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL", nullptr, nullptr, nullptr);
+    QElapsedTimer t;
+    t.start();
+    sqlite3_exec(db, "BEGIN; DELETE FROM tbl_NetworkList", nullptr, nullptr, nullptr);
+    sqlite3_stmt* insert = nullptr;
+    sqlite3_prepare_v2(db, "INSERT INTO tbl_NetworkList VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7, ?8, ?9, ?10, ?11, ?12)", -1, &insert, nullptr);
+    // the missing values as one blank, as the rebuild writes them
+    const auto select = [&](const char* sql, int& key) {
+        sqlite3_stmt* s = nullptr;
+        sqlite3_prepare_v2(db, sql, -1, &s, nullptr);
+        while (sqlite3_step(s) == SQLITE_ROW) {
+            sqlite3_bind_int(insert, 1, key++);
+            for (int i = 0; i < 11; ++i) {
+                const unsigned char* v = sqlite3_column_text(s, i);
+                sqlite3_bind_text(insert, i + 2, v && *v ? reinterpret_cast<const char*>(v) : " ", -1, SQLITE_TRANSIENT);
+            }
+            sqlite3_step(insert);
+            sqlite3_reset(insert);
+        }
+        sqlite3_finalize(s);
+    };
+    int key = 0;
+    select("SELECT l.Location_Name, u.User_Name, p.Computer_Name, p.Workgroup, p.IPAddress, p.IPAddress_16num, "
+           "m.Manufacturer_Name, o.Model_Name, c.Type_Number, c.Sereals_Number, p.MacAddress "
+           "FROM tbl_Computer_List c JOIN tbl_Pclist p ON p.MainKey = c.MainKey "
+           "JOIN tbl_Location l ON l.Location_Code = c.Location_Code JOIN tbl_User u ON u.User_Code = c.User_Code "
+           "JOIN tbl_Section ON tbl_Section.Section_Code = u.Section_Code "
+           "JOIN tbl_Division ON tbl_Division.Division_Code = u.Division_Code "
+           "JOIN tbl_Manufacturer m ON m.Manufacturer_Code = c.Manufacturer_Code JOIN tbl_Model o ON o.Model_Code = c.Model_Code "
+           "WHERE c.Deleted_Flug = 0 AND p.MainKey > 0 ORDER BY p.IPAddress_16num",
+           key);
+    select("SELECT Location_Name, User_Name, Computer_Name, WorkGroup, IPAddress, IPAddress_16num, Manufacturer_Name, "
+           "Model_Name, Type_Number, Sereals_Number, MacAddress FROM tbl_NetworkUnit",
+           key);
+    sqlite3_finalize(insert);
+    const bool committed = sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK;
+    const double took = ms(t);
+    sqlite3_close(db);
+    return committed ? took : -1;
+}
+
+QStringList dumpList(db::Connection& c)
+{
+    QStringList rows;
+    sqlite3_stmt* s = nullptr;
+    sqlite3_prepare_v2(c.handle(), "SELECT * FROM tbl_NetworkList ORDER BY Key", -1, &s, nullptr);
+    while (sqlite3_step(s) == SQLITE_ROW) {
+        QStringList row;
+        for (int i = 0; i < sqlite3_column_count(s); ++i)
+            row << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(s, i)));
+        rows << row.join(QLatin1Char('|'));
+    }
+    sqlite3_finalize(s);
+    return rows;
+}
+
+int makeDemo(const QString& folder)
+{
+    if (!QDir().mkpath(folder) || newLedger(folder, 50, 12, true).isEmpty())
+        return 1;
+    app::SetPath(QDir(folder).absolutePath());
+    if (!Mdl_Access_mdb::ConnectDatabase() || !RebuildNetworkList())
+        return 1;
+    Mdl_Access_mdb::DisconnectDatabase();
+    std::printf("demo ledger of 50 computers, 12 devices and their printers, the address list rebuilt, written to %s\n",
+                qPrintable(folder));
+    return 0;
+}
+
+int bench(int computers, int devices, int runs)
+{
+    QTemporaryDir dir;
+    QElapsedTimer t;
+    t.start();
+    const QString path = newLedger(dir.path(), computers, devices, false);
+    if (path.isEmpty())
+        return 1;
+    std::printf("ledger of %d computers and %d devices generated in %.0f ms\n", computers, devices, ms(t));
+
+    app::SetPath(dir.path());
+    if (!Mdl_Access_mdb::ConnectDatabase())
+        return 1;
+    ui::FlexGrid grid;
+    grid.QWidget::resize(1280, 600);
+    grid.show();
+    QApplication::processEvents();
+
+    std::vector<double> rebuilds, fills, shown, cpu, rebuildCpu, fillCpu;
+    for (int r = 0; r < runs; ++r) {
+        for (int i = 0; i < 5; ++i) {
+            QApplication::processEvents();
+            QThread::msleep(10);
+        }
+        const int before = grid.PaintCount();
+        const double cpuStart = cpuMs();
+        t.restart();
+        if (!RebuildNetworkList()) {
+            std::fprintf(stderr, "the rebuild failed\n");
+            return 1;
+        }
+        rebuilds.push_back(ms(t));
+        rebuildCpu.push_back(cpuMs() - cpuStart);
+        if (View_NetworkList(grid) != ui::FillResult::Rows) {
+            std::fprintf(stderr, "the fill failed\n");
+            return 1;
+        }
+        fills.push_back(ms(t) - rebuilds.back());
+        fillCpu.push_back(cpuMs() - cpuStart - rebuildCpu.back());
+        while (grid.PaintCount() == before && t.elapsed() < 10000)
+            QApplication::processEvents(QEventLoop::AllEvents, 5);
+        shown.push_back(ms(t));
+        cpu.push_back(cpuMs() - cpuStart);
+    }
+    const QStringList rebuilt = dumpList(Mdl_gData::DbConnection());
+    const int rows = grid.Rows() - 1;
+    Mdl_Access_mdb::DisconnectDatabase();
+
+    std::vector<double> floors, floorCpu;
+    for (int r = 0; r < runs; ++r) {
+        const double cpuStart = cpuMs();
+        const double f = floorRebuild(path);
+        floorCpu.push_back(cpuMs() - cpuStart);
+        if (f < 0) {
+            std::fprintf(stderr, "the floor failed\n");
+            return 1;
+        }
+        floors.push_back(f);
+    }
+    db::Connection check;
+    check.Open(QStringLiteral("Data Source=") + path);
+    const bool same = dumpList(check) == rebuilt;
+    check.Close();
+
+    std::printf("machine: %d logical CPUs, Qt %s, SQLite %s, platform %s\n", QThread::idealThreadCount(), qVersion(),
+                sqlite3_libversion(), qPrintable(QGuiApplication::platformName()));
+    std::printf("list: %d rows (installed computers and devices)\n", rows);
+    std::printf("rebuild (RebuildNetworkList):       median %7.1f ms  (CPU %.1f ms)\n", median(rebuilds), median(rebuildCpu));
+    std::printf("lower grid fill (View_NetworkList): median %7.1f ms  (CPU %.1f ms)\n", median(fills), median(fillCpu));
+    std::printf("rebuild, fill and first paint:      median %7.1f ms  (min %.1f, max %.1f, %d runs)\n", median(shown),
+                *std::min_element(shown.begin(), shown.end()), *std::max_element(shown.begin(), shown.end()), runs);
+    std::printf("  CPU time of the same:             median %7.1f ms\n", median(cpu));
+    std::printf("floor: the same rows by plain SQLite in one transaction: median %7.1f ms  (CPU %.1f ms)\n", median(floors),
+                median(floorCpu));
+    std::printf("the floor's list equals the rebuild's: %s\n", same ? "yes" : "NO");
+    return same ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const QStringList args = QApplication::arguments();
+    int computers = 2560, devices = 500, runs = 7;
+    QString demo;
+    for (qsizetype i = 1; i < args.size(); ++i) {
+        if (args[i] == QStringLiteral("--make-demo") && i + 1 < args.size())
+            demo = args[++i];
+        else if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
+            computers = args[++i].toInt();
+        else if (args[i] == QStringLiteral("--devices") && i + 1 < args.size())
+            devices = args[++i].toInt();
+        else if (args[i] == QStringLiteral("--runs") && i + 1 < args.size())
+            runs = args[++i].toInt();
+        else {
+            std::fprintf(stderr, "usage: bench_network [--computers N] [--devices D] [--runs R] | --make-demo DIR\n");
+            return 2;
+        }
+    }
+    try {
+        return demo.isEmpty() ? bench(computers, devices, qMax(1, runs)) : makeDemo(demo);
+    } catch (const vb::VbError& e) {
+        std::fprintf(stderr, "error %ld: %s\n", e.Number(), qPrintable(e.Description()));
+        return 1;
+    }
+}
