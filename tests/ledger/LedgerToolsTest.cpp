@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSet>
 #include <QThread>
 #include <QDir>
 
@@ -136,6 +137,9 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
 {
     const int page = ledger.value(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = 'tbl_Pclist'")).toInt();
     const int size = ledger.value(QStringLiteral("PRAGMA page_size")).toInt();
+    const QStringList roots = ledger.rows(QStringLiteral(
+        "SELECT rootpage FROM sqlite_master WHERE type = 'table' AND name LIKE 'tbl_%' AND name <> 'tbl_Pclist' LIMIT 7"));
+    ASSERT_EQ(roots.size(), 7);
     ledger.closeConnection();
     QFile f(ledger.path());
     ASSERT_TRUE(f.open(QIODevice::ReadWrite));
@@ -146,6 +150,24 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
     EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
     EXPECT_FALSE(r.out.filter(QStringLiteral("tbl_Pclist")).isEmpty() && r.out.filter(QStringLiteral("file:")).isEmpty())
         << r.out.join(QLatin1Char('\n')).toStdString();
+
+    // The first pages of seven more tables wiped out: each problem SQLite finds counts, a few
+    // are shown, and a table that cannot be read is said once, not once for every rule.
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    for (const QString& root : roots) {
+        ASSERT_TRUE(f.seek(qint64(root.toInt() - 1) * size));
+        f.write(QByteArray(16, '\xff'));
+    }
+    f.close();
+    r = check(ledger.path());
+    EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
+    const QStringList file = r.out.filter(QStringLiteral("file: "));
+    ASSERT_EQ(file.size(), 1) << r.out.join(QLatin1Char('\n')).toStdString();
+    const int problems = file[0].section(QLatin1Char(' '), 1, 1).toInt();
+    EXPECT_GT(problems, 5) << file[0].toStdString();
+    EXPECT_EQ(file[0].count(QStringLiteral("; ")), 5) << "five shown, then \"...\": " << file[0].toStdString();
+    EXPECT_FALSE(file[0].contains(QStringLiteral("***")));
+    EXPECT_EQ(QSet<QString>(r.out.begin(), r.out.end()).size(), r.out.size()) << r.out.join(QLatin1Char('\n')).toStdString();
 
     TempDir dir;
     QFile text(dir.file(QStringLiteral("notes.txt")));
