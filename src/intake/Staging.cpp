@@ -4,6 +4,7 @@
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
+#include "platform/db/Statement.h"
 #include "platform/text/LineInput.h"
 #include "platform/vb/Conversion.h"
 #include "platform/vb/FixedArray.h"
@@ -17,26 +18,24 @@ namespace {
 // The seven fields of one inventory line, in the file's order.
 enum CsvField { Key, Group, Item, SubItem, Contents, Unit, Renewalday, CsvFieldCount };
 
-const std::array<QStringView, CsvFieldCount> kFieldNames = {u"Key", u"Group", u"Item", u"SubItem",
-                                                            u"Contents", u"Unit", u"Renewalday"};
-
 // Splits a line the way the inventory tool's files are read: no quoting and no escape. Each of
 // the first six fields is cut off at the next comma; a field that finds no comma stays empty and
 // leaves the rest as it was. Whatever remains, commas included, is Renewalday; a line without
-// any comma therefore stages as seven empty fields.
-std::array<QString, CsvFieldCount> splitLine(const QString& line)
+// any comma therefore stages as seven empty fields. The first six are kept to 254 characters,
+// as staging stores them.
+StagedLine splitLine(QStringView line)
 {
-    std::array<QString, CsvFieldCount> f;
+    StagedLine f;
     QStringView rest;
     const qsizetype first = line.indexOf(QLatin1Char(','));
     if (first >= 0) {
-        f[Key] = line.left(first);
-        rest = QStringView(line).mid(first + 1);
+        f[Key] = line.left(first).left(254).toString();
+        rest = line.mid(first + 1);
     }
     for (int i = Group; i <= Unit; ++i) {
         const qsizetype comma = rest.indexOf(QLatin1Char(','));
         if (comma >= 0) {
-            f[size_t(i)] = rest.left(comma).toString();
+            f[size_t(i)] = rest.left(comma).left(254).toString();
             rest = rest.mid(comma + 1);
         }
     }
@@ -54,7 +53,7 @@ bool CheckCsvHeader(const QString& line)
     return line == QLatin1String("Key,Group,Item,SubItem,Contents,Unit,Renewalday");
 }
 
-bool ReadCsvToStaging(const QString& path)
+std::optional<StagedLines> ReadInventoryLines(const QString& path)
 {
     // The name without its folder and its last four characters, and the last three characters.
     // Windows paths end their folder at the last backslash; here either separator ends the folder,
@@ -67,27 +66,37 @@ bool ReadCsvToStaging(const QString& path)
     text::LineInput input(text::ReadWholeFile(path));
     const QString header = input.next();
     if (header.isEmpty() || !CheckCsvHeader(header))
-        return false;
+        return std::nullopt;
+    StagedLines lines;
+    while (!input.atEnd())
+        lines.push_back(splitLine(input.next()));
+    return lines;
+}
 
+void WriteStaging(const StagedLines& lines)
+{
+    // Rows go in as bound values, not as SQL text, so quotes in a value arrive as they are;
+    // sanitising waits until a value leaves staging.
     db::Connection& c = DbConnection();
     c.Execute(QStringLiteral("DELETE FROM tbl_ReadCsv"));
-
-    // Rows go in through the recordset, not through SQL text, so quotes in a value arrive as they
-    // are; sanitising waits until a value leaves staging.
-    db::Recordset rs;
-    rs.Open(QStringLiteral("SELECT * FROM tbl_ReadCsv"), c, db::adOpenStatic, db::adLockOptimistic);
-    std::array<int, CsvFieldCount> column{};
-    for (int i = 0; i < CsvFieldCount; ++i)
-        column[size_t(i)] = rs.FieldIndex(kFieldNames[size_t(i)]);
-    while (!input.atEnd()) {
-        std::array<QString, CsvFieldCount> f = splitLine(input.next());
-        rs.AddNew();
-        for (int i = Key; i <= Unit; ++i)
-            rs.Fields(column[size_t(i)]) = vb::Variant(f[size_t(i)].left(254));
-        rs.Fields(column[Renewalday]) = vb::Variant(std::move(f[Renewalday]));
-        rs.Update();
+    static const QString insert = QStringLiteral(
+        "INSERT INTO tbl_ReadCsv (\"Key\", \"Group\", Item, SubItem, Contents, Unit, Renewalday) VALUES (?, ?, ?, ?, ?, ?, ?)");
+    std::vector<db::Literal> values(CsvFieldCount);
+    for (const StagedLine& line : lines) {
+        for (size_t i = 0; i < CsvFieldCount; ++i)
+            values[i] = line[i];
+        db::Statement s = c.prepareSql(insert);
+        s.bind(values);
+        s.runToEnd(c);
     }
-    rs.Close();
+}
+
+bool ReadCsvToStaging(const QString& path)
+{
+    const std::optional<StagedLines> lines = ReadInventoryLines(path);
+    if (!lines)
+        return false;
+    WriteStaging(*lines);
     return true;
 }
 

@@ -5,6 +5,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 // The staging routines of the database module: an inventory file is tested by its first line,
 // loaded line by line into tbl_ReadCsv, and its row-wise sections are copied from there into the
@@ -15,12 +17,25 @@ namespace Mdl_Access_mdb {
 // True only for the exact header "Key,Group,Item,SubItem,Contents,Unit,Renewalday" (case counts).
 bool CheckCsvHeader(const QString& line);
 
+// One line of an inventory file as tbl_ReadCsv holds it: Key, Group, Item, SubItem, Contents and
+// Unit cut to their first 254 characters, Renewalday whole.
+using StagedLine = std::array<QString, 7>;
+using StagedLines = std::vector<StagedLine>;
+
 // Tests one inventory file and loads it into tbl_ReadCsv; true means staging now holds this
 // file. Sets CsvFileBaseName and CsvFileExtension first, whatever follows. An empty first line
 // or another header gives false and leaves staging as it was. The file is code page 932; CR LF,
 // LF and CR all end a line. No handler: a file that cannot be opened or read raises its error
 // (53, 75 ...) to the caller, and rows staged before a failure midway stay.
 bool ReadCsvToStaging(const QString& path);
+
+// The first half of ReadCsvToStaging: the lines it would stage, or nothing when the first line
+// refuses the file. Sets the two names and raises the file's errors as it does; writes nothing.
+std::optional<StagedLines> ReadInventoryLines(const QString& path);
+
+// The second half: "DELETE FROM tbl_ReadCsv", then the lines in order, one prepared INSERT each.
+// A line the ledger refuses raises its error; the lines before it stay.
+void WriteStaging(const StagedLines& lines);
 
 // Runs a selection on the staging table and executes prefix + values + ");" for each row found,
 // the values in single quotes by mode (5 applications, 6 devices, 7 printers, 8 environment
