@@ -245,6 +245,48 @@ QString FieldLookupSql(const FieldSelection& s)
            + QStringLiteral(" = '") + s.secondValue + QStringLiteral("'") + QStringLiteral(");");
 }
 
+namespace {
+
+// The column of tbl_ReadCsv that a selection names.
+int stagingColumn(QStringView name)
+{
+    static const std::array<QStringView, 7> names = {u"Key", u"Group", u"Item", u"SubItem", u"Contents", u"Unit", u"Renewalday"};
+    for (size_t i = 0; i < names.size(); ++i)
+        if (names[i] == name)
+            return int(i);
+    return -1;
+}
+
+// Text equality as staging's columns compare (COLLATE NOCASE): A to Z equal a to z, every other
+// character only itself, and the lengths must agree.
+bool equalNoCase(QStringView a, QStringView b)
+{
+    if (a.size() != b.size())
+        return false;
+    const auto fold = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
+    for (qsizetype i = 0; i < a.size(); ++i)
+        if (a[i] != b[i] && fold(a[i].unicode()) != fold(b[i].unicode()))
+            return false;
+    return true;
+}
+
+} // namespace
+
+Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, const FieldSelection& s)
+{
+    const int first = stagingColumn(s.firstColumn);
+    const int second = stagingColumn(s.secondColumn);
+    Mdl_Access_mdb::FirstRow record;
+    for (const Mdl_Access_mdb::StagedLine& line : lines) {
+        if (equalNoCase(line[size_t(second)], s.secondValue) && equalNoCase(line[size_t(first)], s.firstValue)) {
+            for (size_t i = 0; i < line.size(); ++i)
+                record[i] = Mdl_Access_mdb::SanitizeField(line[i]);
+            break;
+        }
+    }
+    return record;
+}
+
 QString BulkReadValue(const InventoryFieldRow& row, InventoryLanguage language, const Mdl_Access_mdb::FirstRow& record)
 {
     const QString& value = record[size_t(row.valuePosition(language))];

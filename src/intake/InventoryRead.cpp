@@ -22,10 +22,16 @@ void InventoryReader::writeFieldMap(const QString& key)
     for (const InventoryFieldRow& row : InventoryFieldMap()) {
         if (row.bulkSkips)
             continue;
-        // Staging never holds a Null and has seven columns, so the lookup does not fail in
-        // practice; if it did, the row would be written as if no record were found.
+        // What staging holds is known when this run wrote it whole: the record is looked up
+        // in those lines. Otherwise it is asked of tbl_ReadCsv; staging as this program writes
+        // it never holds a Null and has seven columns, so that lookup does not fail in practice,
+        // and if it did the row would be written as if no record were found.
+        const FieldSelection selection = row.selection(m_language, FieldMapPath::BulkRead);
         FirstRow record;
-        vb::ResumeNext([&] { record = OpenRecordsetFirstRow(FieldLookupSql(row.selection(m_language, FieldMapPath::BulkRead))); });
+        if (m_staged)
+            record = FieldLookup(*m_staged, selection);
+        else
+            vb::ResumeNext([&] { record = OpenRecordsetFirstRow(FieldLookupSql(selection)); });
         const QString value = BulkReadValue(row, m_language, record);
         for (const QString& sql : BulkReadStatements(row, value, key))
             ExecuteSql(sql);
@@ -53,6 +59,7 @@ void InventoryReader::lose(const vb::VbError& e)
 {
     m_failure = e;
     m_batch.reset();
+    m_staged.reset();  // rolled back with the batch
     for (InventoryFileResult& r : m_pending) {
         r.outcome = InventoryFileResult::NotWritten;
         r.reason = e.Description();
@@ -115,10 +122,15 @@ InventoryFileResult InventoryReader::readOne(const QString& path)
     // opened fails inside the test of ReadCsvToStaging, so the test is what is skipped: a
     // computer is made from whatever tbl_ReadCsv still holds.
     try {
-        if (!ReadCsvToStaging(path)) {
+        std::optional<StagedLines> lines = ReadInventoryLines(path);
+        if (!lines) {
             result.outcome = InventoryFileResult::RefusedHeader;
             return result;
         }
+        // a write that fails midway leaves staging with part of the file
+        m_staged.reset();
+        WriteStaging(*lines);
+        m_staged = std::move(lines);
     } catch (const vb::VbError& e) {
         result.outcome = InventoryFileResult::Unreadable;
         result.reason = e.Description();

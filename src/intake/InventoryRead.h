@@ -1,6 +1,7 @@
 #pragma once
 
 #include "intake/InventoryFieldMap.h"
+#include "intake/Staging.h"
 
 #include "platform/db/Connection.h"
 #include "platform/vb/VbError.h"
@@ -87,6 +88,9 @@ private:
     std::vector<InventoryFileResult> m_pending;  // read into the open batch, not yet reported
     std::optional<vb::VbError> m_failure;
     QElapsedTimer m_batchAge;
+    // The lines tbl_ReadCsv holds, when this run wrote them whole; unknown before the first file
+    // and after a write that failed.
+    std::optional<Mdl_Access_mdb::StagedLines> m_staged;
 };
 
 // ReadInventoryFiles: the run that both read commands share, file by file in the given order.
