@@ -77,6 +77,7 @@ public:
     const std::optional<vb::VbError>& Failure() const { return m_failure; }
 
 private:
+    struct GatheredWrite;
     InventoryFileResult readOne(const QString& path);
     void writeFieldMap(const QString& key);
     void lose(const vb::VbError& e);
@@ -91,6 +92,7 @@ private:
     // The lines tbl_ReadCsv holds, when this run wrote them whole; unknown before the first file
     // and after a write that failed.
     std::optional<Mdl_Access_mdb::StagedLines> m_staged;
+    std::unique_ptr<GatheredWrite> m_gathered;  // made at the first computer
 };
 
 // ReadInventoryFiles: the run that both read commands share, file by file in the given order.
