@@ -257,19 +257,6 @@ int stagingColumn(QStringView name)
     return -1;
 }
 
-// Text equality as staging's columns compare (COLLATE NOCASE): A to Z equal a to z, every other
-// character only itself, and the lengths must agree.
-bool equalNoCase(QStringView a, QStringView b)
-{
-    if (a.size() != b.size())
-        return false;
-    const auto fold = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
-    for (qsizetype i = 0; i < a.size(); ++i)
-        if (a[i] != b[i] && fold(a[i].unicode()) != fold(b[i].unicode()))
-            return false;
-    return true;
-}
-
 } // namespace
 
 Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, const FieldSelection& s)
@@ -278,7 +265,7 @@ Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, c
     const int second = stagingColumn(s.secondColumn);
     Mdl_Access_mdb::FirstRow record;
     for (const Mdl_Access_mdb::StagedLine& line : lines) {
-        if (equalNoCase(line[size_t(second)], s.secondValue) && equalNoCase(line[size_t(first)], s.firstValue)) {
+        if (Mdl_Access_mdb::StagedEquals(line[size_t(second)], s.secondValue) && Mdl_Access_mdb::StagedEquals(line[size_t(first)], s.firstValue)) {
             for (size_t i = 0; i < line.size(); ++i)
                 record[i] = Mdl_Access_mdb::SanitizeField(line[i]);
             break;

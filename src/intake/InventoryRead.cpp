@@ -265,7 +265,10 @@ InventoryFileResult InventoryReader::readOne(const QString& path)
     ExecuteSql(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (") + key + QStringLiteral(")"));
     ExecuteSql(QStringLiteral("INSERT INTO tbl_PClist (MainKey) VALUES (") + key + QStringLiteral(")"));
     writeFieldMap(key);
-    CopyAllStagingRows(key);
+    if (m_staged)
+        CopyAllStagedLines(*m_staged, key);
+    else
+        CopyAllStagingRows(key);
     Mdl_gData::g.LastReadMainKey = m_key;
     result.mainKey = m_key;
     return result;

@@ -3,6 +3,7 @@
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Connection.h"
+#include "platform/db/JetSql.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Statement.h"
 #include "platform/text/LineInput.h"
@@ -17,6 +18,9 @@ namespace {
 
 // The seven fields of one inventory line, in the file's order.
 enum CsvField { Key, Group, Item, SubItem, Contents, Unit, Renewalday, CsvFieldCount };
+
+const std::array<QStringView, CsvFieldCount> kFieldNames = {u"Key", u"Group", u"Item", u"SubItem",
+                                                            u"Contents", u"Unit", u"Renewalday"};
 
 // Splits a line the way the inventory tool's files are read: no quoting and no escape. Each of
 // the first six fields is cut off at the next comma; a field that finds no comma stays empty and
@@ -100,6 +104,26 @@ bool ReadCsvToStaging(const QString& path)
     return true;
 }
 
+namespace {
+
+// The fields that a mode writes, in order, before the key; none for a mode outside 1 to 8.
+std::vector<CsvField> fieldsOf(std::int16_t mode)
+{
+    switch (mode) {
+    case 1: return {Item, SubItem};
+    case 2: return {SubItem, Contents};
+    case 3: return {SubItem, Contents, Unit};
+    case 4: return {Item, SubItem, Contents, Unit};
+    case 5: return {Renewalday, SubItem, Contents, Unit};
+    case 6: return {Renewalday, Item, SubItem, Contents, Unit};
+    case 7: return {Renewalday, SubItem, Contents};
+    case 8: return {Renewalday, Item, SubItem};
+    default: return {};
+    }
+}
+
+} // namespace
+
 void CopyStagingRows(const QString& selection, const QString& prefix, const QString& key, std::int16_t mode)
 {
     // Errors are ignored statement by statement, as VB's On Error Resume Next ran this routine.
@@ -113,40 +137,22 @@ void CopyStagingRows(const QString& selection, const QString& prefix, const QStr
         rs.Close();
         return;
     }
-    const int item = rs.FieldIndex(u"Item");
-    const int subItem = rs.FieldIndex(u"SubItem");
-    const int contents = rs.FieldIndex(u"Contents");
-    const int unit = rs.FieldIndex(u"Unit");
-    const int renewalday = rs.FieldIndex(u"Renewalday");
+    const std::vector<CsvField> fields = fieldsOf(mode);
+    std::vector<int> columns;
+    for (CsvField f : fields)
+        columns.push_back(rs.FieldIndex(kFieldNames[f]));
 
     // Kept across rows: a value that cannot be read (a Null) leaves the previous row's in place.
-    QString vItem, vSubItem, vContents, vUnit, vRenewalday;
-    const auto read = [&rs](int index, QString& into) {
-        vb::ResumeNext([&] { into = SanitizeField(vb::CStr(rs.Value(index))); });
-    };
-    const QString q = QStringLiteral("'");
-    const QString sep = QStringLiteral("', '");
+    std::vector<QString> values(fields.size());
     for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext()) {
-        read(item, vItem);
-        read(subItem, vSubItem);
-        read(contents, vContents);
-        read(unit, vUnit);
-        read(renewalday, vRenewalday);
-        QString values;
-        switch (mode) {
-        case 1: values = q + vItem + sep + vSubItem; break;
-        case 2: values = q + vSubItem + sep + vContents; break;
-        case 3: values = q + vSubItem + sep + vContents + sep + vUnit; break;
-        case 4: values = q + vItem + sep + vSubItem + sep + vContents + sep + vUnit; break;
-        case 5: values = q + vRenewalday + sep + vSubItem + sep + vContents + sep + vUnit; break;
-        case 6: values = q + vRenewalday + sep + vItem + sep + vSubItem + sep + vContents + sep + vUnit; break;
-        case 7: values = q + vRenewalday + sep + vSubItem + sep + vContents; break;
-        case 8: values = q + vRenewalday + sep + vItem + sep + vSubItem; break;
-        default: break;
+        QString sql = prefix;
+        for (size_t i = 0; i < fields.size(); ++i) {
+            vb::ResumeNext([&] { values[i] = SanitizeField(vb::CStr(rs.Value(columns[i]))); });
+            sql += QLatin1Char('\'') + values[i] + QStringLiteral("', ");
         }
-        if (!values.isEmpty())
-            values += sep + key + QStringLiteral("');");
-        ExecuteSql(prefix + values);
+        if (!fields.empty())
+            sql += QLatin1Char('\'') + key + QStringLiteral("');");
+        ExecuteSql(sql);
     }
     rs.Close();
 }
@@ -154,13 +160,17 @@ void CopyStagingRows(const QString& selection, const QString& prefix, const QStr
 // clang-format off
 const std::array<StagingCopy, 4> StagingCopies = {{
     {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Soft' AND Item = 'Application')",
-     u"INSERT INTO tbl_ApplicationsList ( [Update], Application_Name, Application_Version, Application_Path, [Key] ) VALUES(", 5},
+     u"INSERT INTO tbl_ApplicationsList ( [Update], Application_Name, Application_Version, Application_Path, [Key] ) VALUES(", 5,
+     u"Soft", u"Application"},
     {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Device')",
-     u"INSERT INTO tbl_Device_Management ( [Update], Device_Category, Device_Name, Device_Provider, Device_Version, [Key] ) VALUES(", 6},
+     u"INSERT INTO tbl_Device_Management ( [Update], Device_Category, Device_Name, Device_Provider, Device_Version, [Key] ) VALUES(", 6,
+     u"Device", {}},
     {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Hard' AND Item = 'Printer')",
-     u"INSERT INTO tbl_Printer_Management ( [Update], Printer_Name, PrinterPorts_Name, [Key] ) VALUES(", 7},
+     u"INSERT INTO tbl_Printer_Management ( [Update], Printer_Name, PrinterPorts_Name, [Key] ) VALUES(", 7,
+     u"Hard", u"Printer"},
     {u"SELECT * FROM tbl_ReadCsv WHERE (Group = 'Environmental')",
-     u"INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, [Key] ) VALUES(", 8},
+     u"INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, [Key] ) VALUES(", 8,
+     u"Environmental", {}},
 }};
 // clang-format on
 
@@ -168,6 +178,56 @@ void CopyAllStagingRows(const QString& key)
 {
     for (const StagingCopy& copy : StagingCopies)
         CopyStagingRows(copy.selection.toString(), copy.prefix.toString(), key, copy.mode);
+}
+
+bool StagedEquals(QStringView stored, QStringView value)
+{
+    if (stored.size() != value.size())
+        return false;
+    const auto fold = [](char16_t c) { return c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c; };
+    for (qsizetype i = 0; i < stored.size(); ++i)
+        if (stored[i] != value[i] && fold(stored[i].unicode()) != fold(value[i].unicode()))
+            return false;
+    return true;
+}
+
+void CopyAllStagedLines(const StagedLines& lines, const QString& key)
+{
+    db::Connection& c = DbConnection();
+    // Each copy's INSERT, rewritten once: its values are quoted literals, one a field and the key.
+    struct Shape {
+        QString sql;
+        std::vector<CsvField> fields;
+    };
+    static const std::array<Shape, 4> shapes = [] {
+        std::array<Shape, 4> out;
+        for (size_t i = 0; i < StagingCopies.size(); ++i) {
+            out[i].fields = fieldsOf(StagingCopies[i].mode);
+            const QString jet = StagingCopies[i].prefix.toString() + QStringLiteral("'', ").repeated(qsizetype(out[i].fields.size()))
+                                + QStringLiteral("'');");
+            out[i].sql = db::JetSql::ParseShape(jet).shape;
+        }
+        return out;
+    }();
+    std::vector<db::Literal> values;
+    for (size_t i = 0; i < StagingCopies.size(); ++i) {
+        const StagingCopy& copy = StagingCopies[i];
+        const Shape& shape = shapes[i];
+        for (const StagedLine& line : lines) {
+            if (!StagedEquals(line[Group], copy.group) || (!copy.item.isEmpty() && !StagedEquals(line[Item], copy.item)))
+                continue;
+            values.clear();
+            for (CsvField f : shape.fields)
+                values.emplace_back(SanitizeField(line[f]));
+            values.emplace_back(key);
+            // a row the ledger refuses is skipped, as ExecuteSql skips it
+            vb::ResumeNext([&] {
+                db::Statement s = c.prepareSql(shape.sql);
+                s.bind(values);
+                s.runToEnd(c);
+            });
+        }
+    }
 }
 
 } // namespace Mdl_Access_mdb

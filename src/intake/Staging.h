@@ -43,15 +43,27 @@ void WriteStaging(const StagedLines& lines);
 // skipped and the next goes on; a mode outside 1 to 8 gives statements that all fail.
 void CopyStagingRows(const QString& selection, const QString& prefix, const QString& key, std::int16_t mode);
 
-// One of the four copies that both intake paths make, in this order.
+// One of the four copies that both intake paths make, in this order. group and item are the
+// selection's conditions (item empty when it has none).
 struct StagingCopy {
     QStringView selection;
     QStringView prefix;
     std::int16_t mode;
+    QStringView group;
+    QStringView item;
 };
 extern const std::array<StagingCopy, 4> StagingCopies;
 
 // The four copies for a computer, in order: applications, devices, printers, environment.
 void CopyAllStagingRows(const QString& key);
+
+// Whether a staged value equals a value as staging's columns compare them (COLLATE NOCASE): A to
+// Z equal a to z, every other character only itself, and the lengths must agree.
+bool StagedEquals(QStringView stored, QStringView value);
+
+// CopyAllStagingRows when tbl_ReadCsv holds these lines: the selections are made among the lines
+// in their order, and each row runs the very statement the copy would run, with its Jet text
+// rewritten once for all rows.
+void CopyAllStagedLines(const StagedLines& lines, const QString& key);
 
 } // namespace Mdl_Access_mdb

@@ -153,4 +153,46 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
                            QStringLiteral("3|NULL|C：￥bin；D：￥bin||"), QStringLiteral("4|PATH|C：￥bin；D：￥bin||")}));
 }
 
+// The copies from the lines of a file in memory select and write what the copies from
+// tbl_ReadCsv do: the ledger's comparison folds A to Z only, the order is staging's, and a row
+// the ledger refuses drops alone.
+TEST_F(Staging, CopiesFromTheStagedLinesAsFromTheTable)
+{
+    const QByteArray longDate(300, '9');
+    const QString path = write(QStringLiteral("cases.csv"), kHeader.toLatin1() + "\r\n"
+                                   "1,Soft,Application,First,1.0,C:\\A\\,2005/12/04\r\n"
+                                   "2,soft,APPLICATION,Second,2.0,,2005/12/05\r\n"
+                                   "3,Soft,Application ,Blank behind,,,x\r\n"
+                                   "4,Soft,Application,Too long,,," + longDate + "\r\n"
+                                   "5,DEVICE,Disk,Drive 'A',Maker;Co,1#2,2006\r\n"
+                                   "6,\x82\x63" "evice,Disk,Full-width D,,,\r\n"
+                                   "7,Hard,printer,P1,LPT1:,,2006\r\n"
+                                   "8,Hard,Printers,P2,,,\r\n"
+                                   "9,environmental,PATH,C:\\bin,,,2006\r\n"
+                                   "10,Environmental,TEMP,C:\\tmp,,,\r\n"
+                                   "11,Soft,Application,Third,3.0,,2005/12/06\r\n");
+    const auto all = [&] {
+        QStringList rows;
+        for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})
+            rows << ledger.rows(QStringLiteral("SELECT * FROM %1 ORDER BY rowid").arg(QLatin1String(table)));
+        return rows;
+    };
+    ASSERT_TRUE(ReadCsvToStaging(path));
+    CopyAllStagingRows(QStringLiteral("7"));
+    const QStringList fromTable = all();
+    EXPECT_EQ(fromTable.size(), 7) << fromTable.join(QLatin1Char('\n')).toStdString();
+    for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})
+        ledger.exec(QStringLiteral("DELETE FROM %1").arg(QLatin1String(table)));
+
+    const std::optional<StagedLines> lines = ReadInventoryLines(path);
+    ASSERT_TRUE(lines);
+    CopyAllStagedLines(*lines, QStringLiteral("7"));
+    EXPECT_EQ(all(), fromTable);
+
+    for (const StagingCopy& copy : StagingCopies) {
+        const QString item = copy.item.isEmpty() ? QString() : QStringLiteral(" AND Item = '%1'").arg(copy.item);
+        EXPECT_EQ(copy.selection, QStringLiteral("SELECT * FROM tbl_ReadCsv WHERE (Group = '%1'%2)").arg(copy.group, item));
+    }
+}
+
 } // namespace
