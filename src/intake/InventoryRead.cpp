@@ -169,6 +169,11 @@ constexpr qint64 kBatchMilliseconds = 250;
 InventoryReader::InventoryReader(InventoryLanguage language, Report onWritten)
     : m_language(language), m_report(std::move(onWritten))
 {
+    try {
+        m_stageAtCommit = !StagingRunsTriggers(Mdl_gData::DbConnection());
+    } catch (const vb::VbError&) {
+        m_stageAtCommit = false;  // the ledger cannot be asked: every file is staged as it is read
+    }
 }
 
 InventoryReader::~InventoryReader() = default;
@@ -178,6 +183,7 @@ void InventoryReader::lose(const vb::VbError& e)
     m_failure = e;
     m_batch.reset();
     m_staged.reset();  // rolled back with the batch
+    m_stagingPending = false;
     for (InventoryFileResult& r : m_pending) {
         r.outcome = InventoryFileResult::NotWritten;
         r.reason = e.Description();
@@ -193,6 +199,10 @@ bool InventoryReader::Commit()
         return false;
     if (m_batch) {
         try {
+            if (m_stagingPending) {
+                WriteStaging(*m_staged);
+                m_stagingPending = false;
+            }
             m_batch->Commit();
         } catch (const vb::VbError& e) {
             lose(e);
@@ -245,10 +255,20 @@ InventoryFileResult InventoryReader::readOne(const QString& path)
             result.outcome = InventoryFileResult::RefusedHeader;
             return result;
         }
-        // a write that fails midway leaves staging with part of the file
-        m_staged.reset();
-        WriteStaging(*lines);
-        m_staged = std::move(lines);
+        // Staging is seen by no one until the batch is committed, so within a batch only the
+        // last file's lines need to reach it, written just before the commit. That holds while
+        // no line can be refused (staging's columns refuse only a text longer than 255
+        // characters) and no trigger runs on staging; otherwise the file is staged now, and a
+        // write that fails midway leaves staging with part of it.
+        if (m_stageAtCommit && StagingAcceptsWhole(*lines)) {
+            m_staged = std::move(lines);
+            m_stagingPending = true;
+        } else {
+            m_staged.reset();
+            m_stagingPending = false;
+            WriteStaging(*lines);
+            m_staged = std::move(lines);
+        }
     } catch (const vb::VbError& e) {
         result.outcome = InventoryFileResult::Unreadable;
         result.reason = e.Description();

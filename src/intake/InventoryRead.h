@@ -92,6 +92,8 @@ private:
     // The lines tbl_ReadCsv holds, when this run wrote them whole; unknown before the first file
     // and after a write that failed.
     std::optional<Mdl_Access_mdb::StagedLines> m_staged;
+    bool m_stagingPending = false;  // m_staged is still to be written to tbl_ReadCsv
+    bool m_stageAtCommit = false;   // staging may wait for the commit (no trigger on it)
     std::unique_ptr<GatheredWrite> m_gathered;  // made at the first computer
 };
 

@@ -77,22 +77,43 @@ std::optional<StagedLines> ReadInventoryLines(const QString& path)
     return lines;
 }
 
+namespace {
+
+const QString kInsertStaged = QStringLiteral(
+    "INSERT INTO tbl_ReadCsv (\"Key\", \"Group\", Item, SubItem, Contents, Unit, Renewalday) VALUES (?, ?, ?, ?, ?, ?, ?)");
+
+} // namespace
+
 void WriteStaging(const StagedLines& lines)
 {
     // Rows go in as bound values, not as SQL text, so quotes in a value arrive as they are;
     // sanitising waits until a value leaves staging.
     db::Connection& c = DbConnection();
     c.Execute(QStringLiteral("DELETE FROM tbl_ReadCsv"));
-    static const QString insert = QStringLiteral(
-        "INSERT INTO tbl_ReadCsv (\"Key\", \"Group\", Item, SubItem, Contents, Unit, Renewalday) VALUES (?, ?, ?, ?, ?, ?, ?)");
     std::vector<db::Literal> values(CsvFieldCount);
     for (const StagedLine& line : lines) {
         for (size_t i = 0; i < CsvFieldCount; ++i)
             values[i] = line[i];
-        db::Statement s = c.prepareSql(insert);
+        db::Statement s = c.prepareSql(kInsertStaged);
         s.bind(values);
         s.runToEnd(c);
     }
+}
+
+bool StagingAcceptsWhole(const StagedLines& lines)
+{
+    // The first six fields are kept to 254 characters already. Renewalday has no limit in the
+    // ledger; a longer one than 255 answers false all the same, to be safe: such a file is only
+    // staged at once. A text of n UTF-16 units has at most n characters.
+    for (const StagedLine& line : lines)
+        if (line[Renewalday].size() > 255)
+            return false;
+    return true;
+}
+
+bool StagingRunsTriggers(db::Connection& connection)
+{
+    return connection.runsTriggers(QStringLiteral("DELETE FROM tbl_ReadCsv")) || connection.runsTriggers(kInsertStaged);
 }
 
 bool ReadCsvToStaging(const QString& path)

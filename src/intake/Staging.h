@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStringView>
 
+namespace db {
+class Connection;
+}
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -36,6 +40,12 @@ std::optional<StagedLines> ReadInventoryLines(const QString& path);
 // The second half: "DELETE FROM tbl_ReadCsv", then the lines in order, one prepared INSERT each.
 // A line the ledger refuses raises its error; the lines before it stay.
 void WriteStaging(const StagedLines& lines);
+
+// Whether staging surely takes every line: no field longer than 255 characters, the most any of
+// its columns with a limit takes.
+bool StagingAcceptsWhole(const StagedLines& lines);
+// Whether a trigger could run when WriteStaging writes.
+bool StagingRunsTriggers(db::Connection& connection);
 
 // Runs a selection on the staging table and executes prefix + values + ");" for each row found,
 // the values in single quotes by mode (5 applications, 6 devices, 7 printers, 8 environment

@@ -210,6 +210,30 @@ TEST_F(InventoryRead, ARefusedStatementIsDroppedAloneAndTheRestOfTheFileGoesIn)
     EXPECT_EQ(applications(1).size(), 5);
 }
 
+TEST_F(InventoryRead, StagingHoldsTheLastAcceptedFileFromItsFirstRow)
+{
+    const auto results = read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv"), QStringLiteral("bad_header.csv")});
+    ASSERT_EQ(results.size(), 3u);
+    const std::optional<Mdl_Access_mdb::StagedLines> lines = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")));
+    ASSERT_TRUE(lines);
+    QStringList expected;
+    for (size_t i = 0; i < lines->size(); ++i)
+        expected << QString::number(i + 1) + QLatin1Char('|') + QStringList((*lines)[i].begin(), (*lines)[i].end()).join(QLatin1Char('|'));
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT rowid, * FROM tbl_ReadCsv ORDER BY rowid")), expected);
+}
+
+TEST_F(InventoryRead, WhereATriggerRunsOnStagingEachFileIsStagedAsItIsRead)
+{
+    ledger.exec(QStringLiteral("CREATE TABLE staged (n INTEGER)"));
+    ledger.exec(QStringLiteral("INSERT INTO staged VALUES (0)"));
+    ledger.exec(QStringLiteral("CREATE TRIGGER count_staging AFTER DELETE ON tbl_ReadCsv BEGIN UPDATE staged SET n = n + 1; END"));
+    read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv"), QStringLiteral("ja_pc01.csv")});
+    // the trigger runs for each row that the next file's staging deletes
+    const size_t english = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")))->size();
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT n FROM staged")), QString::number(107 + english));
+    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 107);
+}
+
 TEST_F(InventoryRead, WhereATriggerRunsTheFieldsAreWrittenOneStatementAfterAnother)
 {
     // the name is written before the workgroup, so the workgroup the trigger sets is overwritten
@@ -242,14 +266,17 @@ TEST_F(InventoryRead, ARefusedValueDropsAloneWhenACheckRefusesIt)
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2, {{"Computer_Name", ""}, {"Workgroup", ""}, {"Operating_System", "Microsoft Windows 2000 Professional"}});
 }
 
-TEST_F(InventoryRead, EachCheckOfTheComputerTablesNamesItsOwnColumnAlone)
+// The read writes a computer with one UPDATE a table, and staging once a batch, where that
+// leaves the same rows as statement after statement: while each check names its own column
+// alone, and staging refuses nothing but a text longer than 255 characters.
+TEST_F(InventoryRead, EachCheckOfTheComputerTablesAndOfStagingNamesItsOwnColumnAlone)
 {
     // the schema writes each column on a line and its check on the next
     static const QRegularExpression columnLine(QStringLiteral("^\\s*\"?(\\w+)\"? [A-Z]+"));
     static const QRegularExpression checkLine(QStringLiteral("CHECK \\((.*)\\),?$"));
     static const QRegularExpression word(QStringLiteral("'[^']*'|[A-Za-z_]\\w*"));
     static const QStringList sql = {"IS", "NULL", "OR", "AND", "NOT", "BETWEEN", "typeof", "length"};
-    for (const char* table : {"tbl_Pclist", "tbl_Computer_List"}) {
+    for (const char* table : {"tbl_Pclist", "tbl_Computer_List", "tbl_ReadCsv"}) {
         const QString create = ledger.value(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = '%1'").arg(QLatin1String(table)));
         QString column;
         int checks = 0;
@@ -266,6 +293,9 @@ TEST_F(InventoryRead, EachCheckOfTheComputerTablesNamesItsOwnColumnAlone)
                     named << t;
             }
             EXPECT_EQ(named, QStringList{column}) << table << ": " << line.toStdString();
+            if (QLatin1String(table) == QLatin1String("tbl_ReadCsv")) {
+                EXPECT_TRUE(check.captured(1).endsWith(QStringLiteral(") <= 255"))) << line.toStdString();
+            }
             ++checks;
         }
         EXPECT_GT(checks, 0) << table;

@@ -207,6 +207,9 @@ Statement Connection::prepareSql(const QString& sqliteText)
 bool Connection::runsTriggers(const QString& sqliteText)
 {
     requireOpen();
+    // EXPLAIN reads the schema this connection has; a read of the schema table first takes in
+    // what another connection changed since (a trigger made after this connection last ran).
+    run("SELECT count(*) FROM sqlite_master");
     const QByteArray sql = "EXPLAIN " + sqliteText.toUtf8();
     sqlite3_stmt* st = nullptr;
     if (sqlite3_prepare_v2(m_db, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK || !st) {
