@@ -6,6 +6,7 @@
 #include "platform/db/JetSql.h"
 #include "platform/db/Recordset.h"
 #include "platform/db/Statement.h"
+#include "platform/text/Cp932.h"
 #include "platform/text/LineInput.h"
 #include "platform/vb/Conversion.h"
 #include "platform/vb/FixedArray.h"
@@ -26,25 +27,30 @@ const std::array<QStringView, CsvFieldCount> kFieldNames = {u"Key", u"Group", u"
 // the first six fields is cut off at the next comma; a field that finds no comma stays empty and
 // leaves the rest as it was. Whatever remains, commas included, is Renewalday; a line without
 // any comma therefore stages as seven empty fields. The first six are kept to 254 characters,
-// as staging stores them.
-StagedLine splitLine(QStringView line)
+// as staging stores them. The line is [begin, end) of the lines' text.
+StagedLine splitLine(const StagedLines& lines, qsizetype begin, qsizetype end)
 {
+    const QStringView text = lines.text();
+    const auto commaIn = [&](qsizetype from) {
+        const qsizetype at = text.sliced(from, end - from).indexOf(QLatin1Char(','));
+        return at < 0 ? -1 : from + at;
+    };
     StagedLine f;
-    QStringView rest;
-    const qsizetype first = line.indexOf(QLatin1Char(','));
+    qsizetype rest = end;  // no comma: nothing remains for the fields after Key
+    const qsizetype first = commaIn(begin);
     if (first >= 0) {
-        f[Key] = line.left(first).left(254).toString();
-        rest = line.mid(first + 1);
+        f[Key] = lines.field(begin, qMin<qsizetype>(first - begin, 254));
+        rest = first + 1;
     }
     for (int i = Group; i <= Unit; ++i) {
-        const qsizetype comma = rest.indexOf(QLatin1Char(','));
+        const qsizetype comma = commaIn(rest);
         if (comma >= 0) {
-            f[size_t(i)] = rest.left(comma).left(254).toString();
-            rest = rest.mid(comma + 1);
+            f[size_t(i)] = lines.field(rest, qMin<qsizetype>(comma - rest, 254));
+            rest = comma + 1;
         }
     }
-    if (!line.isEmpty())
-        f[Renewalday] = rest.toString();
+    if (end > begin)
+        f[Renewalday] = lines.field(rest, end - rest);
     return f;
 }
 
@@ -67,13 +73,38 @@ std::optional<StagedLines> ReadInventoryLines(const QString& path)
     Mdl_gData::g.CsvFileBaseName = withoutExtension.mid(cut + 1);
     Mdl_gData::g.CsvFileExtension = path.right(3);
 
-    text::LineInput input(text::ReadWholeFile(path));
-    const QString header = input.next();
-    if (header.isEmpty() || !CheckCsvHeader(header))
+    // Each line is decoded by itself, as line input decodes it (CR LF, LF and CR each end a
+    // line; a file that ends with a line end has no empty line after it), into one text for the
+    // whole file; the fields are cut from that text when it is complete.
+    const QByteArray bytes = text::ReadWholeFile(path);
+    const char* const data = bytes.constData();
+    const qsizetype size = bytes.size();
+    QString text;
+    text.reserve(size);
+    std::vector<std::pair<qsizetype, qsizetype>> spans;  // [begin, end) of each line in text
+    qsizetype at = 0;
+    while (at < size) {
+        qsizetype end = at;
+        bool ascii = true;
+        while (end < size && data[end] != '\r' && data[end] != '\n') {
+            ascii = ascii && static_cast<unsigned char>(data[end]) < 0x80;
+            ++end;
+        }
+        const QByteArrayView line(data + at, end - at);
+        const qsizetype begin = text.size();
+        if (ascii)
+            text.append(QLatin1StringView(line));
+        else
+            text.append(text::FromCp932(line));
+        spans.emplace_back(begin, text.size());
+        at = end < size && data[end] == '\r' && end + 1 < size && data[end + 1] == '\n' ? end + 2 : end + 1;
+    }
+    if (spans.empty() || spans[0].first == spans[0].second
+        || !CheckCsvHeader(QStringView(text).sliced(spans[0].first, spans[0].second - spans[0].first).toString()))
         return std::nullopt;
-    StagedLines lines;
-    while (!input.atEnd())
-        lines.push_back(splitLine(input.next()));
+    StagedLines lines(std::move(text));
+    for (size_t i = 1; i < spans.size(); ++i)
+        lines.append(splitLine(lines, spans[i].first, spans[i].second));
     return lines;
 }
 

@@ -24,7 +24,31 @@ bool CheckCsvHeader(const QString& line);
 // One line of an inventory file as tbl_ReadCsv holds it: Key, Group, Item, SubItem, Contents and
 // Unit cut to their first 254 characters, Renewalday whole.
 using StagedLine = std::array<QString, 7>;
-using StagedLines = std::vector<StagedLine>;
+
+// The lines of one inventory file. Their fields are no copies: they point into the file's
+// decoded text, which this object owns and never changes. So a field, and every copy made of
+// it, may be used only while the StagedLines it came from lives (moving it keeps them valid).
+class StagedLines {
+public:
+    explicit StagedLines(QString text) : m_text(std::move(text)) {}
+    StagedLines(StagedLines&&) = default;
+    StagedLines& operator=(StagedLines&&) = default;
+    StagedLines(const StagedLines&) = delete;
+    StagedLines& operator=(const StagedLines&) = delete;
+
+    std::vector<StagedLine>::const_iterator begin() const { return m_lines.begin(); }
+    std::vector<StagedLine>::const_iterator end() const { return m_lines.end(); }
+    std::size_t size() const { return m_lines.size(); }
+    const StagedLine& operator[](std::size_t i) const { return m_lines[i]; }
+    // A field of the text: [from, from + size) of text().
+    QString field(qsizetype from, qsizetype size) const { return QString::fromRawData(m_text.constData() + from, size); }
+    const QString& text() const { return m_text; }
+    void append(StagedLine line) { m_lines.push_back(std::move(line)); }
+
+private:
+    QString m_text;
+    std::vector<StagedLine> m_lines;
+};
 
 // Tests one inventory file and loads it into tbl_ReadCsv; true means staging now holds this
 // file. Sets CsvFileBaseName and CsvFileExtension first, whatever follows. An empty first line

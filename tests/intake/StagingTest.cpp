@@ -2,7 +2,11 @@
 
 #include "IntakeFixture.h"
 
+#include "platform/text/LineInput.h"
 #include "platform/vb/VbError.h"
+
+#include <iterator>
+#include <random>
 
 using namespace Mdl_Access_mdb;
 
@@ -108,6 +112,46 @@ TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
     // only the header: accepted, and staging is empty
     EXPECT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("header_only.csv"))));
     EXPECT_TRUE(staging().isEmpty());
+}
+
+// The file is decoded whole and then cut into lines: each line must come out as line input
+// decodes it alone, whatever bytes stand before its end (a lead byte cut off, a bad byte).
+TEST_F(Staging, EachLineIsDecodedAsLineInputDecodesIt)
+{
+    std::mt19937 dice(7);
+    const QByteArray pieces[] = {"a", "Z", "0", " ", "\"", "\x82\xa0", "\x83\x52", "\x81", "\x9f", "\xe0", "\xfc", "\xfd",
+                                 "\xa0", "\x80", "\xff", "\x82\x63", "\xb1", "\x00", "\x88\x9f"};
+    const QByteArray ends[] = {"\r\n", "\n", "\r", "\r\r\n", "\n\r"};
+    for (int file = 0; file < 40; ++file) {
+        QByteArray bytes = kHeader.toLatin1() + "\r\n";
+        for (int line = 0; line < 30; ++line) {
+            for (int field = 0; field < 7; ++field) {
+                if (field > 0)
+                    bytes += ',';
+                for (int n = int(dice() % 6); n > 0; --n)
+                    bytes += pieces[dice() % std::size(pieces)];
+            }
+            bytes += ends[dice() % std::size(ends)];
+        }
+        if (file % 2)
+            bytes.chop(1);  // a last line with its end cut, or no end
+        const QString path = write(QStringLiteral("random%1.csv").arg(file), bytes);
+
+        const std::optional<StagedLines> lines = ReadInventoryLines(path);
+        ASSERT_TRUE(lines) << file;
+        text::LineInput input(bytes);
+        input.next();
+        size_t i = 0;
+        for (; !input.atEnd(); ++i) {
+            const QString expected = input.next();
+            ASSERT_LT(i, lines->size()) << file;
+            const StagedLine& got = (*lines)[i];
+            // an empty line stages as seven empty fields; every other has its six commas
+            const QString joined = expected.isEmpty() ? QString() : QStringList(got.begin(), got.end()).join(QLatin1Char(','));
+            EXPECT_EQ(joined, expected) << "file " << file << " line " << i;
+        }
+        EXPECT_EQ(i, lines->size()) << file;
+    }
 }
 
 TEST_F(Staging, LoneCarriageReturnsAndLineFeedsEndLinesToo)
