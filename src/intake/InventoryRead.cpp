@@ -96,7 +96,7 @@ struct InventoryReader::GatheredWrite {
 void InventoryReader::writeFieldMap(const QString& key)
 {
     const auto& map = InventoryFieldMap();
-    std::array<QString, std::tuple_size_v<std::decay_t<decltype(map)>>> values;
+    std::vector<QString> values(map.size());
     for (size_t i = 0; i < map.size(); ++i) {
         const InventoryFieldRow& row = map[i];
         if (row.bulkSkips)

@@ -56,6 +56,14 @@ struct InventoryRunResult {
 // between, never within, so a run that is killed leaves each computer whole or absent, and the
 // run is many times faster than with a commit per statement or per file.
 //
+// Within a batch the reader writes less than the statements it stands for, where the ledger
+// ends the same: each file's lines are kept in memory and looked up there as the SELECTs on
+// tbl_ReadCsv would find them; staging itself is written once, with the batch's last file,
+// before the commit; a computer's fields go in with one UPDATE a table (a refused one falls
+// back to the field-by-field statements); the row-wise copies run their INSERTs with the Jet
+// text rewritten once. Where a trigger could run on these tables, or staging could refuse a
+// line, the statements run one by one as written.
+//
 // A file is reported (onWritten) only once the batch that holds it is committed. When the
 // ledger cannot be written (a full disk, a read-only file, another program holding it), the
 // batch is rolled back whole, its files are reported NotWritten with the reason, and the run
