@@ -6,7 +6,9 @@
 // them (/usr/bin/time's maximum resident set size). Then the growth bench: 500 files read into a
 // ledger that holds 2,500 computers against the same files into an empty one.
 //
-//   bench_intake [--files N] [--runs R] [--keep FOLDER] [--grown N]
+//   bench_intake [--files N] [--runs R] [--keep FOLDER] [--grown N] [--admin PATH]
+//
+// --admin benches another build of fenwold-admin (an earlier commit's, for a before and after).
 #include "InventoryGenerator.h"
 #include "SqliteFloor.h"
 
@@ -28,6 +30,9 @@
 
 namespace {
 
+// The fenwold-admin that is benched: this build's, or the one --admin names.
+QString adminProgram = QStringLiteral(FENWOLD_ADMIN);
+
 struct AdminRun {
     double seconds = 0;
     double cpuSeconds = 0;
@@ -39,7 +44,7 @@ struct AdminRun {
 AdminRun runAdmin(const QString& ledger, const QStringList& files)
 {
     QProcess p;
-    QStringList args = {QStringLiteral("-f"), QStringLiteral("cpu=%U+%S maxrss_kb=%M"), QStringLiteral(FENWOLD_ADMIN), QStringLiteral("read"),
+    QStringList args = {QStringLiteral("-f"), QStringLiteral("cpu=%U+%S maxrss_kb=%M"), adminProgram, QStringLiteral("read"),
                         QStringLiteral("--ledger"), ledger};
     args += files;
     QElapsedTimer t;
@@ -145,6 +150,8 @@ int main(int argc, char** argv)
             keep = args[i + 1];
         else if (args[i] == QLatin1String("--grown"))
             grown = args[i + 1].toInt();
+        else if (args[i] == QLatin1String("--admin"))
+            adminProgram = args[i + 1];
     }
 
     QTemporaryDir dir;
