@@ -2,6 +2,7 @@
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "intake/InventoryFieldMap.h"
+#include "intake/Staging.h"
 #include "platform/text/Cp932.h"
 
 #include <QFile>
@@ -55,20 +56,11 @@ Record split(QStringView line)
     return r;
 }
 
-int columnOf(QStringView name)
-{
-    static const std::array<QStringView, 7> names = {u"Key", u"Group", u"Item", u"SubItem", u"Contents", u"Unit", u"Renewalday"};
-    for (size_t i = 0; i < names.size(); ++i)
-        if (names[i] == name)
-            return int(i);
-    return -1;
-}
-
 // The first record of the file that meets both conditions (text compared without case, as the
 // staging table's columns compare), sanitised; nine empty strings when there is none.
 Mdl_Access_mdb::FirstRow lookup(const std::vector<Record>& records, const FieldSelection& s)
 {
-    const int a = columnOf(s.firstColumn), b = columnOf(s.secondColumn);
+    const int a = Mdl_Access_mdb::StagingColumn(s.firstColumn), b = Mdl_Access_mdb::StagingColumn(s.secondColumn);
     Mdl_Access_mdb::FirstRow row;
     for (const Record& r : records) {
         if (r[size_t(a)].compare(s.firstValue, Qt::CaseInsensitive) == 0 && r[size_t(b)].compare(s.secondValue, Qt::CaseInsensitive) == 0) {

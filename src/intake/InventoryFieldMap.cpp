@@ -245,24 +245,10 @@ QString FieldLookupSql(const FieldSelection& s)
            + QStringLiteral(" = '") + s.secondValue + QStringLiteral("'") + QStringLiteral(");");
 }
 
-namespace {
-
-// The column of tbl_ReadCsv that a selection names.
-int stagingColumn(QStringView name)
-{
-    static const std::array<QStringView, 7> names = {u"Key", u"Group", u"Item", u"SubItem", u"Contents", u"Unit", u"Renewalday"};
-    for (size_t i = 0; i < names.size(); ++i)
-        if (names[i] == name)
-            return int(i);
-    return -1;
-}
-
-} // namespace
-
 Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, const FieldSelection& s)
 {
-    const int first = stagingColumn(s.firstColumn);
-    const int second = stagingColumn(s.secondColumn);
+    const int first = Mdl_Access_mdb::StagingColumn(s.firstColumn);
+    const int second = Mdl_Access_mdb::StagingColumn(s.secondColumn);
     Mdl_Access_mdb::FirstRow record;
     for (const Mdl_Access_mdb::StagedLine& line : lines) {
         if (Mdl_Access_mdb::StagedEquals(line[size_t(second)], s.secondValue) && Mdl_Access_mdb::StagedEquals(line[size_t(first)], s.firstValue)) {

@@ -56,6 +56,14 @@ StagedLine splitLine(const StagedLines& lines, qsizetype begin, qsizetype end)
 
 } // namespace
 
+int StagingColumn(QStringView name)
+{
+    for (size_t i = 0; i < kFieldNames.size(); ++i)
+        if (kFieldNames[i] == name)
+            return int(i);
+    return -1;
+}
+
 bool CheckCsvHeader(const QString& line)
 {
     // The test as first written cut the line at each comma and compared the pieces with the six names, then

@@ -21,6 +21,10 @@ namespace Mdl_Access_mdb {
 // True only for the exact header "Key,Group,Item,SubItem,Contents,Unit,Renewalday" (case counts).
 bool CheckCsvHeader(const QString& line);
 
+// The number of a column of tbl_ReadCsv, in the file's order (0 Key to 6 Renewalday); -1 for a
+// name that is none of them.
+int StagingColumn(QStringView name);
+
 // One line of an inventory file as tbl_ReadCsv holds it: Key, Group, Item, SubItem, Contents and
 // Unit cut to their first 254 characters, Renewalday whole.
 using StagedLine = std::array<QString, 7>;
