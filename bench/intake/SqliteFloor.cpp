@@ -2,6 +2,7 @@
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "intake/InventoryFieldMap.h"
+#include "intake/Staging.h"
 #include "platform/text/Cp932.h"
 
 #include <QFile>
@@ -55,20 +56,11 @@ Record split(QStringView line)
     return r;
 }
 
-int columnOf(QStringView name)
-{
-    static const std::array<QStringView, 7> names = {u"Key", u"Group", u"Item", u"SubItem", u"Contents", u"Unit", u"Renewalday"};
-    for (size_t i = 0; i < names.size(); ++i)
-        if (names[i] == name)
-            return int(i);
-    return -1;
-}
-
 // The first record of the file that meets both conditions (text compared without case, as the
 // staging table's columns compare), sanitised; nine empty strings when there is none.
 Mdl_Access_mdb::FirstRow lookup(const std::vector<Record>& records, const FieldSelection& s)
 {
-    const int a = columnOf(s.firstColumn), b = columnOf(s.secondColumn);
+    const int a = Mdl_Access_mdb::StagingColumn(s.firstColumn), b = Mdl_Access_mdb::StagingColumn(s.secondColumn);
     Mdl_Access_mdb::FirstRow row;
     for (const Record& r : records) {
         if (r[size_t(a)].compare(s.firstValue, Qt::CaseInsensitive) == 0 && r[size_t(b)].compare(s.secondValue, Qt::CaseInsensitive) == 0) {
@@ -208,6 +200,45 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files)
     }
     if (sqlite3_exec(db.h, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
         return QString::fromUtf8(sqlite3_errmsg(db.h));
+    return {};
+}
+
+QString CopyFloor(const QString& readLedger, const QString& freshLedger)
+{
+    Db from, to;
+    if (sqlite3_open_v2(QFile::encodeName(readLedger).constData(), &from.h, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK
+        || sqlite3_open_v2(QFile::encodeName(freshLedger).constData(), &to.h, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK)
+        return QStringLiteral("cannot open the ledgers");
+    sqlite3_exec(to.h, "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL", nullptr, nullptr, nullptr);
+    sqlite3_exec(to.h, "BEGIN", nullptr, nullptr, nullptr);
+    for (const char* table : {"tbl_Computer_List", "tbl_Pclist", "tbl_ApplicationsList", "tbl_Device_Management",
+                              "tbl_Printer_Management", "tbl_Environmental", "tbl_ReadCsv"}) {
+        // the rows a fresh ledger has already (the computer of key 0) stay as they are
+        Stmt max;
+        sqlite3_prepare_v2(to.h, QByteArray("SELECT coalesce(max(rowid), 0) FROM ").append(table).constData(), -1, &max.h, nullptr);
+        sqlite3_step(max.h);
+        Stmt read;
+        sqlite3_prepare_v2(from.h, QByteArray("SELECT rowid, * FROM ").append(table).append(" WHERE rowid > ?").constData(), -1,
+                           &read.h, nullptr);
+        sqlite3_bind_int64(read.h, 1, sqlite3_column_int64(max.h, 0));
+        const int columns = sqlite3_column_count(read.h);
+        QByteArray names = "rowid";
+        for (int c = 1; c < columns; ++c)
+            names += ", \"" + QByteArray(sqlite3_column_name(read.h, c)) + "\"";
+        const QByteArray insert = "INSERT INTO " + QByteArray(table) + " (" + names + ") VALUES (" + QByteArray("?, ").repeated(columns - 1) + "?)";
+        Stmt write;
+        if (sqlite3_prepare_v2(to.h, insert.constData(), -1, &write.h, nullptr) != SQLITE_OK)
+            return QString::fromUtf8(sqlite3_errmsg(to.h));
+        while (sqlite3_step(read.h) == SQLITE_ROW) {
+            for (int c = 0; c < columns; ++c)
+                sqlite3_bind_value(write.h, c + 1, sqlite3_column_value(read.h, c));
+            if (sqlite3_step(write.h) != SQLITE_DONE)
+                return QString::fromUtf8(sqlite3_errmsg(to.h));
+            sqlite3_reset(write.h);
+        }
+    }
+    if (sqlite3_exec(to.h, "COMMIT", nullptr, nullptr, nullptr) != SQLITE_OK)
+        return QString::fromUtf8(sqlite3_errmsg(to.h));
     return {};
 }
 

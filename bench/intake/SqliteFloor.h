@@ -16,4 +16,10 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files);
 // comparing two ledgers.
 QStringList DumpComputers(const QString& ledgerPath);
 
+// The stricter floor: the rows that a read left in the seven tables it writes (staging
+// included), copied from that ledger into a fresh one by prepared statements in one
+// transaction, with the ledger's journal settings. No file is read. Returns an empty string, or
+// why it failed.
+QString CopyFloor(const QString& readLedger, const QString& freshLedger);
+
 } // namespace bench

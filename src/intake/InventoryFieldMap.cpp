@@ -245,6 +245,21 @@ QString FieldLookupSql(const FieldSelection& s)
            + QStringLiteral(" = '") + s.secondValue + QStringLiteral("'") + QStringLiteral(");");
 }
 
+Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, const FieldSelection& s)
+{
+    const int first = Mdl_Access_mdb::StagingColumn(s.firstColumn);
+    const int second = Mdl_Access_mdb::StagingColumn(s.secondColumn);
+    Mdl_Access_mdb::FirstRow record;
+    for (const Mdl_Access_mdb::StagedLine& line : lines) {
+        if (Mdl_Access_mdb::StagedEquals(line[size_t(second)], s.secondValue) && Mdl_Access_mdb::StagedEquals(line[size_t(first)], s.firstValue)) {
+            for (size_t i = 0; i < line.size(); ++i)
+                record[i] = Mdl_Access_mdb::SanitizeField(line[i]);
+            break;
+        }
+    }
+    return record;
+}
+
 QString BulkReadValue(const InventoryFieldRow& row, InventoryLanguage language, const Mdl_Access_mdb::FirstRow& record)
 {
     const QString& value = record[size_t(row.valuePosition(language))];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Mdl_Access_mdb.h"
+#include "intake/Staging.h"
 
 #include <QString>
 #include <QStringList>
@@ -78,6 +79,12 @@ const std::array<InventoryFieldRow, 107>& InventoryFieldMap();
 
 // "SELECT * FROM tbl_ReadCsv  WHERE (Item = 'LAN'  AND SubItem = 'コンピュータ名');"
 QString FieldLookupSql(const FieldSelection& selection);
+
+// The record that FieldLookupSql finds in tbl_ReadCsv when staging holds these lines, as
+// OpenRecordsetFirstRow returns it: the first line, in staging's order, whose two columns equal
+// the two values as the ledger compares text (case counts for A to Z only), each value through
+// SanitizeField; nine empty strings when no line matches.
+Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, const FieldSelection& selection);
 
 // The value that the bulk read writes for a row, from the record its lookup found (nine empty
 // strings when none): cut, converted to a whole number, a flag digit or an address key.

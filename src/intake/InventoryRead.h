@@ -1,6 +1,7 @@
 #pragma once
 
 #include "intake/InventoryFieldMap.h"
+#include "intake/Staging.h"
 
 #include "platform/db/Connection.h"
 #include "platform/vb/VbError.h"
@@ -55,6 +56,14 @@ struct InventoryRunResult {
 // between, never within, so a run that is killed leaves each computer whole or absent, and the
 // run is many times faster than with a commit per statement or per file.
 //
+// Within a batch the reader writes less than the statements it stands for, where the ledger
+// ends the same: each file's lines are kept in memory and looked up there as the SELECTs on
+// tbl_ReadCsv would find them; staging itself is written once, with the batch's last file,
+// before the commit; a computer's fields go in with one UPDATE a table (a refused one falls
+// back to the field-by-field statements); the row-wise copies run their INSERTs with the Jet
+// text rewritten once. Where a trigger could run on these tables, or staging could refuse a
+// line, the statements run one by one as written.
+//
 // A file is reported (onWritten) only once the batch that holds it is committed. When the
 // ledger cannot be written (a full disk, a read-only file, another program holding it), the
 // batch is rolled back whole, its files are reported NotWritten with the reason, and the run
@@ -76,6 +85,7 @@ public:
     const std::optional<vb::VbError>& Failure() const { return m_failure; }
 
 private:
+    struct GatheredWrite;
     InventoryFileResult readOne(const QString& path);
     void writeFieldMap(const QString& key);
     void lose(const vb::VbError& e);
@@ -87,6 +97,12 @@ private:
     std::vector<InventoryFileResult> m_pending;  // read into the open batch, not yet reported
     std::optional<vb::VbError> m_failure;
     QElapsedTimer m_batchAge;
+    // The lines tbl_ReadCsv holds, when this run wrote them whole; unknown before the first file
+    // and after a write that failed.
+    std::optional<Mdl_Access_mdb::StagedLines> m_staged;
+    bool m_stagingPending = false;  // m_staged is still to be written to tbl_ReadCsv
+    bool m_stageAtCommit = false;   // staging may wait for the commit (no trigger on it)
+    std::unique_ptr<GatheredWrite> m_gathered;  // made at the first computer
 };
 
 // ReadInventoryFiles: the run that both read commands share, file by file in the given order.

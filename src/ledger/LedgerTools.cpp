@@ -197,17 +197,23 @@ CheckReport CheckLedger(const QString& path)
         return report;
     report.opened = true;
 
+    // SQLite answers "ok", or its problems: a row may hold several, one a line, under a
+    // "*** in database main ***" heading. Each line is one problem; the heading is none.
     QStringList problems;
     const QString failed = eachRow(db.get(), "PRAGMA integrity_check", [&](const QString& row) {
-        if (row != QLatin1String("ok"))
-            problems << row.simplified();
+        if (row == QLatin1String("ok"))
+            return;
+        for (const QString& line : row.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+            if (!line.startsWith(QLatin1String("*** ")))
+                problems << line.simplified();
     });
     if (!failed.isEmpty())
         problems << failed;
     if (!problems.isEmpty()) {
-        report.faults << QStringLiteral("file: %1 problems found by the integrity check: %2")
+        report.faults << QStringLiteral("file: %1 problems found by the integrity check: %2%3")
                              .arg(problems.size())
-                             .arg(problems.mid(0, kKeysShown).join(QLatin1String("; ")));
+                             .arg(problems.mid(0, kKeysShown).join(QLatin1String("; ")),
+                                  problems.size() > kKeysShown ? QStringLiteral("; ...") : QString());
     }
 
     for (const Probe& p : kProbes) {
@@ -223,7 +229,10 @@ CheckReport CheckLedger(const QString& path)
             }
         });
         if (!error.isEmpty()) {
-            report.faults << QStringLiteral("%1: cannot be read (%2)").arg(QLatin1String(p.table), error);
+            // a damaged table fails every rule that reads it: one line for it is enough
+            const QString line = QStringLiteral("%1: cannot be read (%2)").arg(QLatin1String(p.table), error);
+            if (!report.faults.contains(line))
+                report.faults << line;
             continue;
         }
         if (count == 0)

@@ -159,4 +159,42 @@ TEST(InventoryFieldMap, TheReviewGridKeepsItsOwnFormOfRows51And66And97)
     EXPECT_EQ(map[96].field, map[95].field);
 }
 
+class FieldLookupInStaging : public IntakeFixture {
+protected:
+    TempDir files;
+};
+
+// The bulk read looks records up among the lines it staged; for every row of the map, in both
+// languages and on both paths, it must find what the row's SELECT finds in tbl_ReadCsv: the
+// same first line (staging's order, A to Z compared without case, nothing else), sanitised.
+TEST_F(FieldLookupInStaging, FindsWhatTheSelectFindsForEveryRow)
+{
+    QByteArray bytes = ReadTestData(QStringLiteral("inventory/ja_pc01.csv"));
+    bytes.replace(",LAN,\x83R", ",lan,\x83R");                      // the computer's name under "lan"
+    bytes.replace(",CPU,Clock,", ",Cpu,clock,");
+    bytes += "90,Hard,CPU,NAME,Second name,,\r\n"                    // later: the first one counts
+             "91,Soft,Internet,setting,Start Page,http://late/,\r\n"
+             "92,Network,Adapter,IP address ,10.9.9.9,,\r\n"          // a blank behind: no match
+             "93,Soft,Windows,Version,2000,,2006/01/15 09:05:00\r\n";
+    bytes += ReadTestData(QStringLiteral("inventory/en_pc02.csv")).mid(50);
+    files.write(QStringLiteral("mixed.csv"), bytes);
+    const QString path = files.file(QStringLiteral("mixed.csv"));
+    ASSERT_TRUE(Mdl_Access_mdb::ReadCsvToStaging(path));
+    const std::optional<Mdl_Access_mdb::StagedLines> lines = Mdl_Access_mdb::ReadInventoryLines(path);
+    ASSERT_TRUE(lines);
+
+    int found = 0;
+    for (const InventoryFieldRow& row : InventoryFieldMap()) {
+        for (InventoryLanguage language : {InventoryLanguage::Japanese, InventoryLanguage::English}) {
+            for (FieldMapPath path : {FieldMapPath::BulkRead, FieldMapPath::Review}) {
+                const FieldSelection s = row.selection(language, path);
+                const Mdl_Access_mdb::FirstRow fromTable = Mdl_Access_mdb::OpenRecordsetFirstRow(FieldLookupSql(s));
+                EXPECT_EQ(FieldLookup(*lines, s), fromTable) << "row " << row.row << ": " << FieldLookupSql(s).toStdString();
+                found += fromTable[0].isEmpty() ? 0 : 1;
+            }
+        }
+    }
+    EXPECT_GT(found, 300);
+}
+
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "IntakeFixture.h"
 
+#include <QRegularExpression>
+
 namespace {
 
 using Outcome = InventoryFileResult::Outcome;
@@ -206,6 +208,99 @@ TEST_F(InventoryRead, ARefusedStatementIsDroppedAloneAndTheRestOfTheFileGoesIn)
     expected[1].second = QStringLiteral("NULL");
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, expected);
     EXPECT_EQ(applications(1).size(), 5);
+}
+
+TEST_F(InventoryRead, StagingHoldsTheLastAcceptedFileFromItsFirstRow)
+{
+    const auto results = read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv"), QStringLiteral("bad_header.csv")});
+    ASSERT_EQ(results.size(), 3u);
+    const std::optional<Mdl_Access_mdb::StagedLines> lines = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")));
+    ASSERT_TRUE(lines);
+    QStringList expected;
+    for (size_t i = 0; i < lines->size(); ++i)
+        expected << QString::number(i + 1) + QLatin1Char('|') + QStringList((*lines)[i].begin(), (*lines)[i].end()).join(QLatin1Char('|'));
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT rowid, * FROM tbl_ReadCsv ORDER BY rowid")), expected);
+}
+
+TEST_F(InventoryRead, WhereATriggerRunsOnStagingEachFileIsStagedAsItIsRead)
+{
+    ledger.exec(QStringLiteral("CREATE TABLE staged (n INTEGER)"));
+    ledger.exec(QStringLiteral("INSERT INTO staged VALUES (0)"));
+    ledger.exec(QStringLiteral("CREATE TRIGGER count_staging AFTER DELETE ON tbl_ReadCsv BEGIN UPDATE staged SET n = n + 1; END"));
+    read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv"), QStringLiteral("ja_pc01.csv")});
+    // the trigger runs for each row that the next file's staging deletes
+    const size_t english = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")))->size();
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT n FROM staged")), QString::number(107 + english));
+    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 107);
+}
+
+TEST_F(InventoryRead, WhereATriggerRunsTheFieldsAreWrittenOneStatementAfterAnother)
+{
+    // the name is written before the workgroup, so the workgroup the trigger sets is overwritten
+    ledger.exec(QStringLiteral("CREATE TRIGGER name_sets_workgroup AFTER UPDATE OF Computer_Name ON tbl_Pclist "
+                               "BEGIN UPDATE tbl_Pclist SET Workgroup = 'SET BY NAME' WHERE MainKey = NEW.MainKey; END"));
+    read({QStringLiteral("ja_pc01.csv")});
+    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, JaPc01Pclist());
+}
+
+// The read writes a computer's fields with one UPDATE a table where that gives the same row as
+// the walk's statements; that holds while each check of the two tables names its own column
+// alone. A value refused by such a check still drops alone, with or without a trigger.
+TEST_F(InventoryRead, ARefusedValueDropsAloneWhenACheckRefusesIt)
+{
+    const QString create = ledger.value(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = 'tbl_Pclist'"));
+    const QString check = QStringLiteral("CHECK (length(Workgroup) <= 255)");
+    ASSERT_TRUE(create.contains(check));
+    ledger.exec(QStringLiteral("ALTER TABLE tbl_Pclist RENAME TO tbl_Pclist_old"));
+    ledger.exec(QString(create).replace(check, QStringLiteral("CHECK (length(Workgroup) <= 255 AND Workgroup <> 'WORKGROUP')")));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist SELECT * FROM tbl_Pclist_old"));
+    ledger.exec(QStringLiteral("DROP TABLE tbl_Pclist_old"));
+
+    const auto results = read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv")});
+    EXPECT_EQ(results[1].outcome, Outcome::Read);
+    FieldValues expected = JaPc01Pclist();
+    expected[1].second = QStringLiteral("NULL");
+    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, expected);
+    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, JaPc01ComputerList());
+    // another workgroup passes, and the computer of the next file is written whole
+    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2, {{"Computer_Name", ""}, {"Workgroup", ""}, {"Operating_System", "Microsoft Windows 2000 Professional"}});
+}
+
+// The read writes a computer with one UPDATE a table, and staging once a batch, where that
+// leaves the same rows as statement after statement: while each check names its own column
+// alone, and staging refuses nothing but a text longer than 255 characters.
+TEST_F(InventoryRead, EachCheckOfTheComputerTablesAndOfStagingNamesItsOwnColumnAlone)
+{
+    // the schema writes each column on a line and its check on the next
+    static const QRegularExpression columnLine(QStringLiteral("^\\s*\"?(\\w+)\"? [A-Z]+"));
+    static const QRegularExpression checkLine(QStringLiteral("CHECK \\((.*)\\),?$"));
+    static const QRegularExpression word(QStringLiteral("'[^']*'|[A-Za-z_]\\w*"));
+    static const QStringList sql = {"IS", "NULL", "OR", "AND", "NOT", "BETWEEN", "typeof", "length"};
+    for (const char* table : {"tbl_Pclist", "tbl_Computer_List", "tbl_ReadCsv"}) {
+        const QString create = ledger.value(QStringLiteral("SELECT sql FROM sqlite_master WHERE name = '%1'").arg(QLatin1String(table)));
+        QString column;
+        int checks = 0;
+        for (const QString& line : create.split(QLatin1Char('\n'))) {
+            if (const auto c = columnLine.match(line); c.hasMatch() && !line.contains(QStringLiteral("CONSTRAINT")))
+                column = c.captured(1);
+            const auto check = checkLine.match(line);
+            if (!check.hasMatch())
+                continue;
+            QStringList named;
+            for (auto w = word.globalMatch(check.captured(1)); w.hasNext();) {
+                const QString t = w.next().captured(0);
+                if (!t.startsWith(QLatin1Char('\'')) && !sql.contains(t) && !named.contains(t))
+                    named << t;
+            }
+            EXPECT_EQ(named, QStringList{column}) << table << ": " << line.toStdString();
+            if (QLatin1String(table) == QLatin1String("tbl_ReadCsv")) {
+                EXPECT_TRUE(check.captured(1).endsWith(QStringLiteral(") <= 255"))) << line.toStdString();
+            }
+            ++checks;
+        }
+        EXPECT_GT(checks, 0) << table;
+        EXPECT_EQ(checks, create.count(QStringLiteral("CHECK"))) << table;
+    }
 }
 
 TEST_F(InventoryRead, PastTheLastKeyTheKeyStaysWhatItWas)

@@ -2,7 +2,11 @@
 
 #include "IntakeFixture.h"
 
+#include "platform/text/LineInput.h"
 #include "platform/vb/VbError.h"
+
+#include <iterator>
+#include <random>
 
 using namespace Mdl_Access_mdb;
 
@@ -110,6 +114,46 @@ TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
     EXPECT_TRUE(staging().isEmpty());
 }
 
+// The file is decoded whole and then cut into lines: each line must come out as line input
+// decodes it alone, whatever bytes stand before its end (a lead byte cut off, a bad byte).
+TEST_F(Staging, EachLineIsDecodedAsLineInputDecodesIt)
+{
+    std::mt19937 dice(7);
+    const QByteArray pieces[] = {"a", "Z", "0", " ", "\"", "\x82\xa0", "\x83\x52", "\x81", "\x9f", "\xe0", "\xfc", "\xfd",
+                                 "\xa0", "\x80", "\xff", "\x82\x63", "\xb1", "\x00", "\x88\x9f"};
+    const QByteArray ends[] = {"\r\n", "\n", "\r", "\r\r\n", "\n\r"};
+    for (int file = 0; file < 40; ++file) {
+        QByteArray bytes = kHeader.toLatin1() + "\r\n";
+        for (int line = 0; line < 30; ++line) {
+            for (int field = 0; field < 7; ++field) {
+                if (field > 0)
+                    bytes += ',';
+                for (int n = int(dice() % 6); n > 0; --n)
+                    bytes += pieces[dice() % std::size(pieces)];
+            }
+            bytes += ends[dice() % std::size(ends)];
+        }
+        if (file % 2)
+            bytes.chop(1);  // a last line with its end cut, or no end
+        const QString path = write(QStringLiteral("random%1.csv").arg(file), bytes);
+
+        const std::optional<StagedLines> lines = ReadInventoryLines(path);
+        ASSERT_TRUE(lines) << file;
+        text::LineInput input(bytes);
+        input.next();
+        size_t i = 0;
+        for (; !input.atEnd(); ++i) {
+            const QString expected = input.next();
+            ASSERT_LT(i, lines->size()) << file;
+            const StagedLine& got = (*lines)[i];
+            // an empty line stages as seven empty fields; every other has its six commas
+            const QString joined = expected.isEmpty() ? QString() : QStringList(got.begin(), got.end()).join(QLatin1Char(','));
+            EXPECT_EQ(joined, expected) << "file " << file << " line " << i;
+        }
+        EXPECT_EQ(i, lines->size()) << file;
+    }
+}
+
 TEST_F(Staging, LoneCarriageReturnsAndLineFeedsEndLinesToo)
 {
     const QString path = write(QStringLiteral("mixed.csv"), kHeader.toLatin1() + "\r1,a,b,c,d,e,f\n2,g,h,i,j,k,l\r\n3,m,n,o,p,q,r");
@@ -151,6 +195,48 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path, Coments FROM tbl_Environmental ORDER BY rowid")),
               (QStringList{QStringLiteral("1|NULL|PATH|C：￥bin；D：￥bin|NULL"), QStringLiteral("2|NULL|NULL|C：￥bin；D：￥bin|"),
                            QStringLiteral("3|NULL|C：￥bin；D：￥bin||"), QStringLiteral("4|PATH|C：￥bin；D：￥bin||")}));
+}
+
+// The copies from the lines of a file in memory select and write what the copies from
+// tbl_ReadCsv do: the ledger's comparison folds A to Z only, the order is staging's, and a row
+// the ledger refuses drops alone.
+TEST_F(Staging, CopiesFromTheStagedLinesAsFromTheTable)
+{
+    const QByteArray longDate(300, '9');
+    const QString path = write(QStringLiteral("cases.csv"), kHeader.toLatin1() + "\r\n"
+                                   "1,Soft,Application,First,1.0,C:\\A\\,2005/12/04\r\n"
+                                   "2,soft,APPLICATION,Second,2.0,,2005/12/05\r\n"
+                                   "3,Soft,Application ,Blank behind,,,x\r\n"
+                                   "4,Soft,Application,Too long,,," + longDate + "\r\n"
+                                   "5,DEVICE,Disk,Drive 'A',Maker;Co,1#2,2006\r\n"
+                                   "6,\x82\x63" "evice,Disk,Full-width D,,,\r\n"
+                                   "7,Hard,printer,P1,LPT1:,,2006\r\n"
+                                   "8,Hard,Printers,P2,,,\r\n"
+                                   "9,environmental,PATH,C:\\bin,,,2006\r\n"
+                                   "10,Environmental,TEMP,C:\\tmp,,,\r\n"
+                                   "11,Soft,Application,Third,3.0,,2005/12/06\r\n");
+    const auto all = [&] {
+        QStringList rows;
+        for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})
+            rows << ledger.rows(QStringLiteral("SELECT * FROM %1 ORDER BY rowid").arg(QLatin1String(table)));
+        return rows;
+    };
+    ASSERT_TRUE(ReadCsvToStaging(path));
+    CopyAllStagingRows(QStringLiteral("7"));
+    const QStringList fromTable = all();
+    EXPECT_EQ(fromTable.size(), 7) << fromTable.join(QLatin1Char('\n')).toStdString();
+    for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})
+        ledger.exec(QStringLiteral("DELETE FROM %1").arg(QLatin1String(table)));
+
+    const std::optional<StagedLines> lines = ReadInventoryLines(path);
+    ASSERT_TRUE(lines);
+    CopyAllStagedLines(*lines, QStringLiteral("7"));
+    EXPECT_EQ(all(), fromTable);
+
+    for (const StagingCopy& copy : StagingCopies) {
+        const QString item = copy.item.isEmpty() ? QString() : QStringLiteral(" AND Item = '%1'").arg(copy.item);
+        EXPECT_EQ(copy.selection, QStringLiteral("SELECT * FROM tbl_ReadCsv WHERE (Group = '%1'%2)").arg(copy.group, item));
+    }
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QSet>
 #include <QThread>
 #include <QDir>
 
@@ -56,16 +57,22 @@ TEST(Backup, CopiesALedgerWhileAReadWritesItAndNeverOverwrites)
     TempLedger ledger;
     ledger.closeConnection();
     TempDir out;
+    // Enough files to read for the copies to be made while it runs: the read takes well under a
+    // millisecond a file. They go by a short name, from the folder the read runs in.
+    constexpr int kFiles = 10000;
+    TempDir inventory;
+    ASSERT_TRUE(QFile::copy(TestDataPath(QStringLiteral("inventory/ja_pc01.csv")), inventory.file(QStringLiteral("a.csv"))));
     QStringList read = {QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path()};
-    for (int i = 0; i < 1500; ++i)
-        read << TestDataPath(QStringLiteral("inventory/ja_pc01.csv"));
+    for (int i = 0; i < kFiles; ++i)
+        read << QStringLiteral("a.csv");
     QProcess reader;
+    reader.setWorkingDirectory(inventory.path());
     reader.start(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), read);
     ASSERT_TRUE(reader.waitForStarted());
 
     QStringList copies;
     for (int i = 0; i < 3; ++i) {
-        QThread::msleep(300);
+        QThread::msleep(200);
         const QString copy = out.file(QStringLiteral("copy%1.mdb").arg(i));
         const AdminRun r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), ledger.path(), copy});
         EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
@@ -80,7 +87,7 @@ TEST(Backup, CopiesALedgerWhileAReadWritesItAndNeverOverwrites)
     for (const QString& copy : copies)
         largest = std::max(largest, ExpectWholeLedger(copy));
     EXPECT_GT(largest, 0) << "no copy caught a committed batch";
-    EXPECT_EQ(ExpectWholeLedger(ledger.path()), 1500);
+    EXPECT_EQ(ExpectWholeLedger(ledger.path()), kFiles);
 
     // an existing file stays as it was; no ledger, no copy
     QFile existing(out.file(QStringLiteral("existing.mdb")));
@@ -136,6 +143,9 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
 {
     const int page = ledger.value(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = 'tbl_Pclist'")).toInt();
     const int size = ledger.value(QStringLiteral("PRAGMA page_size")).toInt();
+    const QStringList roots = ledger.rows(QStringLiteral(
+        "SELECT rootpage FROM sqlite_master WHERE type = 'table' AND name LIKE 'tbl_%' AND name <> 'tbl_Pclist' LIMIT 7"));
+    ASSERT_EQ(roots.size(), 7);
     ledger.closeConnection();
     QFile f(ledger.path());
     ASSERT_TRUE(f.open(QIODevice::ReadWrite));
@@ -146,6 +156,24 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
     EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
     EXPECT_FALSE(r.out.filter(QStringLiteral("tbl_Pclist")).isEmpty() && r.out.filter(QStringLiteral("file:")).isEmpty())
         << r.out.join(QLatin1Char('\n')).toStdString();
+
+    // The first pages of seven more tables wiped out: each problem SQLite finds counts, a few
+    // are shown, and a table that cannot be read is said once, not once for every rule.
+    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
+    for (const QString& root : roots) {
+        ASSERT_TRUE(f.seek(qint64(root.toInt() - 1) * size));
+        f.write(QByteArray(16, '\xff'));
+    }
+    f.close();
+    r = check(ledger.path());
+    EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
+    const QStringList file = r.out.filter(QStringLiteral("file: "));
+    ASSERT_EQ(file.size(), 1) << r.out.join(QLatin1Char('\n')).toStdString();
+    const int problems = file[0].section(QLatin1Char(' '), 1, 1).toInt();
+    EXPECT_GT(problems, 5) << file[0].toStdString();
+    EXPECT_EQ(file[0].count(QStringLiteral("; ")), 5) << "five shown, then \"...\": " << file[0].toStdString();
+    EXPECT_FALSE(file[0].contains(QStringLiteral("***")));
+    EXPECT_EQ(QSet<QString>(r.out.begin(), r.out.end()).size(), r.out.size()) << r.out.join(QLatin1Char('\n')).toStdString();
 
     TempDir dir;
     QFile text(dir.file(QStringLiteral("notes.txt")));

@@ -204,6 +204,25 @@ Statement Connection::prepareSql(const QString& sqliteText)
     return m_cache->acquire(sqliteText);
 }
 
+bool Connection::runsTriggers(const QString& sqliteText)
+{
+    requireOpen();
+    // EXPLAIN reads the schema this connection has; a read of the schema table first takes in
+    // what another connection changed since (a trigger made after this connection last ran).
+    run("SELECT count(*) FROM sqlite_master");
+    const QByteArray sql = "EXPLAIN " + sqliteText.toUtf8();
+    sqlite3_stmt* st = nullptr;
+    if (sqlite3_prepare_v2(m_db, sql.constData(), int(sql.size()), &st, nullptr) != SQLITE_OK || !st) {
+        sqlite3_finalize(st);
+        return true;
+    }
+    bool found = false;
+    while (!found && sqlite3_step(st) == SQLITE_ROW)
+        found = qstrcmp(reinterpret_cast<const char*>(sqlite3_column_text(st, 1)), "Program") == 0;
+    sqlite3_finalize(st);
+    return found;
+}
+
 Statement Connection::prepare(const JetStatement& st, bool withRowids)
 {
     requireOpen();

@@ -66,6 +66,10 @@ public:
     // of the inventory read, the lists), so their parses are kept.
     JetStatement parse(const QString& jetSql);
     Statement prepareSql(const QString& sqliteText);
+    // Whether running this SQLite statement would start a trigger: its program, as EXPLAIN
+    // shows it, calls one (a trigger's WHEN is decided later, so one that might fire counts).
+    // A statement that cannot be prepared answers true.
+    bool runsTriggers(const QString& sqliteText);
     sqlite3* handle() const { return m_db; }
     // Throws when closed, or when the open transaction was lost to a failure of the engine.
     void requireOpen() const;

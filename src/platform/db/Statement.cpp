@@ -7,6 +7,8 @@
 
 #include <sqlite3.h>
 
+#include <cstring>
+
 namespace db {
 
 Statement::Statement(StatementCache* cache, sqlite3_stmt* stmt, std::shared_ptr<const ColumnSet> columns, bool cached)
@@ -53,11 +55,13 @@ void Statement::bind(const std::vector<Literal>& params)
 {
     // Texts are bound as UTF-8, the ledger's encoding, so that SQLite does not translate them.
     // Their bytes go into one buffer, sized before the first goes in, that lives in the statement
-    // until it goes back: SQLite may keep the pointers.
+    // until it goes back: SQLite may keep the pointers. Each text ends in a NUL that SQLite is
+    // told of, so that the length() of the ledger's checks reads it in place instead of copying
+    // it to end it; a text with a NUL of its own is bound by its length, NUL and all.
     qsizetype capacity = 1;
     for (const Literal& p : params)
         if (const auto* text = std::get_if<QString>(&p))
-            capacity += text->size() * 3;
+            capacity += text->size() * 3 + 1;
     m_utf8.resize(capacity);
     QStringEncoder encoder(QStringEncoder::Utf8);
     char* next = m_utf8.data();
@@ -70,8 +74,10 @@ void Statement::bind(const std::vector<Literal>& params)
             sqlite3_bind_double(m_stmt, at, *d);
         } else {
             char* end = encoder.appendToBuffer(next, std::get<QString>(p));
-            sqlite3_bind_text(m_stmt, at, next, int(end - next), SQLITE_STATIC);
-            next = end;
+            *end = '\0';
+            const int size = int(end - next);
+            sqlite3_bind_text(m_stmt, at, next, memchr(next, 0, size_t(size)) ? size : -1, SQLITE_STATIC);
+            next = end + 1;
         }
     }
 }
