@@ -6,7 +6,10 @@ function(fenwold_warnings target)
   target_compile_definitions(${target} PRIVATE
     QT_NO_KEYWORDS QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_USE_QSTRINGBUILDER)
   if(FENWOLD_SANITIZE)
-    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-omit-frame-pointer)
+    # AddressSanitizer and UndefinedBehaviorSanitizer; undefined behaviour stops the run at the
+    # first report instead of printing and going on.
+    target_compile_options(${target} PRIVATE
+      -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     target_link_options(${target} PRIVATE -fsanitize=address,undefined)
   endif()
 endfunction()

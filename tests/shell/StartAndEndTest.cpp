@@ -128,6 +128,9 @@ TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
     EXPECT_EQ(m.geometry(), QRect(ui::TwipsToPixels(50), ui::TwipsToPixels(50), ui::TwipsToPixels(14835), ui::TwipsToPixels(10530)));
     EXPECT_EQ(Mdl_gData::g.MainFormWidth, 14835);
     EXPECT_EQ(Mdl_gData::g.MainFormTop, 50);
+    // framed once shown, the window keeps the outer size it was given, so Quit saves it unchanged
+    m.Show();
+    QCoreApplication::processEvents();
 
     QPointer<frm_Main> main(&m);
     m.Mnu_Program_Quit->trigger();

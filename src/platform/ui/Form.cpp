@@ -114,6 +114,7 @@ bool Form::Unload(int unloadMode)
 
 int Form::frameExtraWidth() const { return frameGeometry().width() - width(); }
 int Form::frameExtraHeight() const { return frameGeometry().height() - height(); }
+bool Form::framed() const { return frameExtraWidth() > 0 || frameExtraHeight() > 0; }
 
 int Form::Left() const { return PixelsToTwips(x()); }
 int Form::Top() const { return PixelsToTwips(y()); }
@@ -122,8 +123,29 @@ int Form::Height() const { return PixelsToTwips(frameGeometry().height()); }
 
 void Form::SetLeft(int twips) { move(TwipsToPixels(twips), y()); }
 void Form::SetTop(int twips) { move(x(), TwipsToPixels(twips)); }
-void Form::SetWidth(int twips) { resize(qMax(0, TwipsToPixels(twips) - frameExtraWidth()), height()); }
-void Form::SetHeight(int twips) { resize(width(), qMax(0, TwipsToPixels(twips) - frameExtraHeight())); }
+void Form::SetWidth(int twips)
+{
+    m_unframedWidth = framed() ? 0 : twips;
+    resize(qMax(0, TwipsToPixels(twips) - frameExtraWidth()), height());
+}
+
+void Form::SetHeight(int twips)
+{
+    m_unframedHeight = framed() ? 0 : twips;
+    resize(width(), qMax(0, TwipsToPixels(twips) - frameExtraHeight()));
+}
+
+void Form::applyUnframedSize()
+{
+    // The window manager has just put its frame round the window (Qt learns the frame's size
+    // with the move that follows): the size set before counted the frame as nothing.
+    if (!framed() || (m_unframedWidth == 0 && m_unframedHeight == 0))
+        return;
+    if (m_unframedWidth > 0)
+        SetWidth(m_unframedWidth);
+    if (m_unframedHeight > 0)
+        SetHeight(m_unframedHeight);
+}
 
 int Form::WindowState() const
 {
@@ -146,6 +168,8 @@ void Form::SetWindowState(int state)
 
 bool Form::event(QEvent* e)
 {
+    if (e->type() == QEvent::Move || e->type() == QEvent::Resize)
+        applyUnframedSize();
     if (e->type() == QEvent::WindowDeactivate && IsLoaded())
         Dispatch([this] { Form_LostFocus(); });
     return QWidget::event(e);

@@ -15,8 +15,10 @@ enum FormWindowStateConstants { vbNormal = 0, vbMinimized = 1, vbMaximized = 2 }
 // A window with a VB form's life: loaded once (Form_Load), shown modeless or modal, unloaded by
 // Unload or by its close box (Form_QueryUnload with the unload mode, then Form_Unload; either may
 // cancel), and destroyed after the unload. Its place and size are read and set in twips of the
-// outer window, as Left, Top, Width and Height were. Every event reaches the handlers through
-// ui::Dispatch.
+// outer window, as Left, Top, Width and Height were. The frame is known only once the window
+// manager has framed the window: a width or height set before that is set again, frame
+// allowed for, when the frame is first known, so that the outer window has the size asked for.
+// Every event reaches the handlers through ui::Dispatch.
 //
 // A modal Show runs a loop of its own until the window is hidden or unloaded. With the modal
 // loop turned off (SetModalLoop(false), as the tests do) it shows the window application-modal
@@ -75,6 +77,12 @@ protected:
 private:
     int frameExtraWidth() const;
     int frameExtraHeight() const;
+    bool framed() const;
+    void applyUnframedSize();
+
+    // Width and Height in twips set while the window had no frame yet; 0 when none waits.
+    int m_unframedWidth = 0;
+    int m_unframedHeight = 0;
 
     bool m_loading = false;
     bool m_loaded = false;

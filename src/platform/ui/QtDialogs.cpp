@@ -1,5 +1,7 @@
 #include "platform/ui/QtDialogs.h"
 
+#include "platform/ui/CommonDialog.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -107,6 +109,10 @@ std::optional<QString> QtDialogs::FileDialog(const FileDialogRequest& r)
         dlg.selectFile(r.fileName);
     if (!r.defaultExt.isEmpty())
         dlg.setDefaultSuffix(r.defaultExt);
+    // The common dialog asks before replacing a file only when its flags say so; Qt's own
+    // question would name a file the caller may not write (the list export adds ".csv" to the
+    // name chosen) and would be asked where the system asks nothing.
+    dlg.setOption(QFileDialog::DontConfirmOverwrite, !(r.flags & cdlOFNOverwritePrompt));
     if (dlg.exec() != QDialog::Accepted || dlg.selectedFiles().isEmpty())
         return std::nullopt;
     return dlg.selectedFiles().first();

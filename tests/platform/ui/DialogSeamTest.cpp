@@ -2,14 +2,20 @@
 #include "platform/ui/CommonDialog.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/QtDialogs.h"
 #include "platform/vb/VbError.h"
 
 #include "support/ScriptedDialogs.h"
+#include "support/TempDir.h"
 #include "support/VbErrors.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QFileDialog>
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QMessageBox>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -45,6 +51,44 @@ TEST(CommonDialog, SaveDialogAsTheListExportAsksForIt)
     cd.CancelError = false;
     EXPECT_EQ(ErrorOf([&] { cd.ShowSave(); }), 0);
     EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
+}
+
+// Runs Qt's save dialog, chooses the file and accepts; says whether a question came before the
+// dialog closed (the question is refused, and the dialog with it).
+bool QtSaveAsks(long flags, const QString& file, std::optional<QString>& chosen)
+{
+    ui::FileDialogRequest r;
+    r.kind = ui::FileDialogRequest::Save;
+    r.title = QStringLiteral("CSV書き出し");
+    r.filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
+    r.flags = flags;
+    bool asked = false;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        QTimer::singleShot(0, [&asked, dialog] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                asked = true;
+                box->reject();
+                QTimer::singleShot(0, dialog, &QDialog::reject);
+            }
+        });
+        dialog->selectFile(file);
+        static_cast<QDialog*>(dialog)->accept();   // QFileDialog::accept, as the Save button
+    });
+    chosen = ui::QtDialogs().FileDialog(r);
+    return asked;
+}
+
+TEST(QtDialogs, SaveDialogReplacesAFileWithoutAQuestionUnlessTheFlagsAskForOne)
+{
+    TempDir dir;
+    dir.write(QStringLiteral("list.csv"), "old");
+    std::optional<QString> chosen;
+    EXPECT_FALSE(QtSaveAsks(0, dir.file(QStringLiteral("list.csv")), chosen));
+    EXPECT_EQ(chosen, dir.file(QStringLiteral("list.csv")));
+    EXPECT_TRUE(QtSaveAsks(ui::cdlOFNOverwritePrompt, dir.file(QStringLiteral("list.csv")), chosen));
+    EXPECT_EQ(chosen, std::nullopt);
 }
 
 TEST(CommonDialog, PrinterDialogAndItsSetupForm)

@@ -168,6 +168,16 @@ TEST(Form, PlaceAndSizeInTwips)
     EXPECT_EQ(f.Width(), ui::PixelsToTwips(ui::TwipsToPixels(6000)));
     EXPECT_EQ(f.Left(), 1500);
     EXPECT_EQ(f.WindowState(), ui::vbNormal);
+
+    // Sizes set before the window is shown count its frame as nothing; once it is framed (here by
+    // the offscreen platform) the outer window still has the size asked for, and the place.
+    f.show();
+    QCoreApplication::processEvents();
+    ASSERT_GT(f.frameGeometry().height(), f.height()) << "the window has a frame";
+    EXPECT_EQ(f.Width(), ui::PixelsToTwips(ui::TwipsToPixels(6000)));
+    EXPECT_EQ(f.Height(), ui::PixelsToTwips(ui::TwipsToPixels(4500)));
+    EXPECT_EQ(f.Left(), 1500);
+    EXPECT_EQ(f.Top(), 750);
 }
 
 TEST(FixedSize, CentresAtLoadAndKeepsItsSize)
