@@ -5,11 +5,22 @@
 #include <QString>
 #include <QStringList>
 
-// fenwold-admin run as a process, the way scripts run it.
-struct AdminRun {
+class TempDir;
+
+// A program run as a process, the way scripts run it.
+struct ProcessRun {
     int exitCode = -1;         // -1 when it crashed or did not finish
     QStringList out;           // the lines of standard output, blank lines left out
     QString err;
 };
+using AdminRun = ProcessRun;
 
-AdminRun Admin(const QStringList& args, const QString& program = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"));
+ProcessRun RunProcess(const QString& program, const QStringList& args);
+
+inline const QString kAdminProgram = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin");
+
+// fenwold-admin, the built one unless told.
+inline ProcessRun Admin(const QStringList& args, const QString& program = kAdminProgram) { return RunProcess(program, args); }
+
+// A copy of fenwold-admin in that folder, so that it finds pcdb.mdb and DB.ini beside itself.
+QString AdminBeside(const TempDir& folder);
