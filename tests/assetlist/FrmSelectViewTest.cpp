@@ -5,14 +5,10 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFile>
 #include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPointer>
 #include <QRadioButton>
-#include <QTest>
 
 #include <array>
 #include <initializer_list>
@@ -40,22 +36,16 @@ protected:
         for (int i = 0; i <= 7; ++i)
             g.ViewNames[i] = QStringLiteral(" ");
         // three installed computers and a retired one, all on the code-0 masters
-        computer(1, 0, 0, QStringLiteral("Computer_Name = 'PC-A', Workgroup = 'W3'"));
-        computer(2, 0, 0, QStringLiteral("Computer_Name = 'PC-C', Workgroup = 'W1'"));
-        computer(3, 0, 0, QStringLiteral("Computer_Name = 'PC-B', Workgroup = 'W2'"));
-        computer(4, 1, 0, QStringLiteral("Computer_Name = 'PC-X'"));
-    }
-    void TearDown() override
-    {
-        delete form.data();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        AssetListFixture::TearDown();
+        ledger.computer(1, 0, 0, "Computer_Name = 'PC-A', Workgroup = 'W3'");
+        ledger.computer(2, 0, 0, "Computer_Name = 'PC-C', Workgroup = 'W1'");
+        ledger.computer(3, 0, 0, "Computer_Name = 'PC-B', Workgroup = 'W2'");
+        ledger.computer(4, 1, 0, "Computer_Name = 'PC-X'");
     }
 
     // The window as the main window opens it: modal, over the view in memory.
     frm_SelectView& open()
     {
-        form = new frm_SelectView;
+        form = &frm_SelectView::Instance();
         form->Show(ui::vbModal);
         return *form;
     }
@@ -124,14 +114,6 @@ protected:
         }
         return out;
     }
-    QStringList listedKeys() const
-    {
-        QStringList out;
-        for (int r = 1; r < grid->Rows(); ++r)
-            out << grid->TextMatrix(r, 1);
-        return out;
-    }
-
     // Writes the sort keys of a saved view: field, caption and direction of each, in slot order;
     // a null direction is left out.
     void writeSortKeys(int section, const std::vector<std::array<const char*, 3>>& keys)
@@ -187,7 +169,6 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAtItsFixedSize)
 
     EXPECT_FALSE(f.Mnu_Update->isEnabled()) << "nothing changed yet";
     EXPECT_EQ(viewMenu(), us({"0:全体", "1: ", "*2:撤去分", "3: ", "4: ", "5: ", "6: ", "7: "}));
-    EXPECT_EQ(f.Mnu_Close->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
@@ -306,7 +287,7 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
     form->close();
     EXPECT_TRUE(form.isNull() || form->IsUnloaded());
     EXPECT_TRUE(iniSection(u("Main")).isEmpty());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    flushDeletes();
 
     // ... the menu's close does
     open();
