@@ -1,7 +1,7 @@
 #include "platform/vb/Conversion.h"
 #include "platform/vb/Format.h"
 
-#include "VbTestSupport.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 

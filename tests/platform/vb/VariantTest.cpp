@@ -1,20 +1,27 @@
 #include "platform/vb/Conversion.h"
 #include "platform/vb/VbError.h"
 
-#include "VbTestSupport.h"
+#include "support/QtPrinters.h"
 #include "support/VbErrors.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 #include <optional>
+#include <variant>
+
+inline void PrintTo(const QDateTime& d, std::ostream* os) { *os << d.toString(QStringLiteral("yyyy/MM/dd HH:mm:ss.zzz")).toStdString(); }
 
 using namespace vb;
-using vbtest::ExpectOutcome;
-using vbtest::Outcome;
-using vbtest::Raises;
 
 namespace {
+
+// The run-time error a case expects instead of a value.
+struct Raises {
+    long number;
+};
+template <typename T>
+using Outcome = std::variant<T, Raises>;
 
 Variant S(const char* utf8) { return Variant(QString::fromUtf8(utf8)); }
 Variant I(std::int16_t i) { return Variant::Integer(i); }
@@ -32,12 +39,22 @@ struct Case {
     Outcome<T> out;
 };
 
+// Each case must give the expected value, or raise the expected error.
 template <typename T, typename F, size_t N>
 void RunCases(const Case<T> (&cases)[N], F convert)
 {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
-        ExpectOutcome<T>(c.out, [&] { return convert(c.in); });
+        try {
+            const T got = convert(c.in);
+            if (const auto* raises = std::get_if<Raises>(&c.out))
+                ADD_FAILURE() << "returned " << ::testing::PrintToString(got) << " instead of raising " << raises->number;
+            else
+                EXPECT_EQ(got, std::get<T>(c.out));
+        } catch (const VbError& e) {
+            const auto* raises = std::get_if<Raises>(&c.out);
+            EXPECT_EQ(raises ? raises->number : 0, e.Number()) << e.what();
+        }
     }
 }
 
