@@ -157,19 +157,6 @@ TEST(Form, ModalWindowInTheProgramWaitsUntilItGoes)
     flushDeletes();
 }
 
-TEST(Form, PlaceAndSizeInTwips)
-{
-    Form f;
-    f.SetWidth(6000);
-    f.SetHeight(4500);
-    f.SetLeft(1500);
-    f.SetTop(750);
-    EXPECT_EQ(f.geometry(), QRect(ui::TwipsToPixels(1500), ui::TwipsToPixels(750), ui::TwipsToPixels(6000), ui::TwipsToPixels(4500)));
-    EXPECT_EQ(f.Width(), ui::PixelsToTwips(ui::TwipsToPixels(6000)));
-    EXPECT_EQ(f.Left(), 1500);
-    EXPECT_EQ(f.WindowState(), ui::vbNormal);
-}
-
 TEST(FixedSize, CentresAtLoadAndKeepsItsSize)
 {
     auto* f = new Form;
