@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QRadioButton>
+#include <QRegularExpression>
 
 #include <array>
 #include <initializer_list>
@@ -236,13 +237,9 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->Mnu_Update->trigger();
 
     EXPECT_EQ(g.SelectNumber, 2);
-    for (int i = 0; i <= 2; ++i) {
-        const char* const want[3][3] = {
-            {"Computer_Name", "コンピュータ名", "DESC"}, {"Workgroup", "ワークグループ", "DESC"}, {"", " ", "DESC"}};
-        EXPECT_EQ(g.SortKeyName[i], u(want[i][0])) << i;
-        EXPECT_EQ(g.SortKeyCaption[i], u(want[i][1])) << i;
-        EXPECT_EQ(g.SortKeyDirection[i], u(want[i][2])) << i;
-    }
+    EXPECT_EQ(iniSection(u("0")).filter(QRegularExpression(QStringLiteral("^Key"))),
+              us({"KeyName0=Computer_Name", "KeyName1=Workgroup", "KeyName2=", "KeyCaption0=コンピュータ名",
+                  "KeyCaption1=ワークグループ", "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC"}));
     EXPECT_TRUE(g.ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << g.ListSql.toStdString();
     EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));

@@ -1,10 +1,5 @@
 #include "AssetListFixture.h"
 
-#include "platform/db/Connection.h"
-#include "platform/db/Recordset.h"
-#include "platform/vb/Conversion.h"
-#include "platform/vb/VbError.h"
-#include "support/VbErrors.h"
 
 using namespace Mdl_gData;
 
@@ -56,12 +51,12 @@ TEST_F(ListQuery, OptDelChoosesInstalledRetiredOrBoth)
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{"1", "3"}));
 
-    mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("OptDel"), QStringLiteral("1"));
+    writeView(0, {{"OptDel", "1"}});
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{"2", "4"}));
 
     // Any other value lists both; computer 0, whose flag is Null, is read and skipped.
-    mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("OptDel"), QStringLiteral("2"));
+    writeView(0, {{"OptDel", "2"}});
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{"1", "2", "3", "4"}));
     EXPECT_EQ(g.ListRowCount, 4);
@@ -70,17 +65,14 @@ TEST_F(ListQuery, OptDelChoosesInstalledRetiredOrBoth)
 
 TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
 {
-    master(QStringLiteral("tbl_Location"), 1, QStringLiteral("本社"));
-    master(QStringLiteral("tbl_Location"), 2, QStringLiteral("支社"));
+    master("tbl_Location", 1, "本社");
+    master("tbl_Location", 2, "支社");
     ledger.computer(1, 0, 0, "Computer_Name = 'PC-A'", "Location_Code = 2");
     ledger.computer(2, 0, 0, "Computer_Name = 'PC-B'", "Location_Code = 1");
     ledger.computer(3, 0, 0, "Computer_Name = 'PC-C'", "Location_Code = 2");
     writeColumns(0, {1, 8});
-    writeView(0, {{QStringLiteral("SelectNumber"), QStringLiteral("2")},
-                  {QStringLiteral("KeyName0"), QStringLiteral("Location_Name")},
-                  {QStringLiteral("KeyASCDESC0"), QStringLiteral("ASC")},
-                  {QStringLiteral("KeyName1"), QStringLiteral("Computer_Name")},
-                  {QStringLiteral("KeyASCDESC1"), QStringLiteral("DESC")}});
+    writeView(0, {{"SelectNumber", "2"}, {"KeyName0", "Location_Name"}, {"KeyASCDESC0", "ASC"}, {"KeyName1", "Computer_Name"},
+                  {"KeyASCDESC1", "DESC"}});
     ASSERT_TRUE(loadList());
     // 支社 sorts before 本社 in the engine's text order
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "3", "支社", "PC-C"}));
@@ -89,31 +81,12 @@ TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
 
     // a name the engine does not know fails when the fill opens the statement; the grid is
     // left as it stood
-    mdl_ini::IniWrite(QStringLiteral("0"), QStringLiteral("KeyName1"), QStringLiteral("Computer_Nmae"));
+    writeView(0, {{"KeyName1", "Computer_Nmae"}});
     LoadView();
     EXPECT_EQ(list->fnc_View_PClist(), ui::FillResult::Failed);
     EXPECT_EQ(errorBoxes().size(), 1u);
     EXPECT_TRUE(grid->Visible());
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "3", "支社", "PC-C"}));
-}
-
-TEST_F(ListQuery, JoinedFieldNamesAnswerAsAdoNamedThem)
-{
-    user(1, QStringLiteral("山田太郎"), QStringLiteral("1"));
-    ledger.computer(1, 0, 1, "IPAddress = '10.0.0.1', \"Update\" = '2004/01/01'", "\"Update\" = '2005/04/01'");
-    gSetSQLVal();
-    db::Recordset rs;
-    rs.Open(g.ListSql, DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
-    ASSERT_EQ(rs.RecordCount(), 1);
-    EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Pclist.MainKey").Value()), QStringLiteral("1"));
-    EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Computer_List.Update").Value()), QStringLiteral("2005/04/01"));
-    EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Pclist.Update").Value()), QStringLiteral("2004/01/01"));
-    EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_User.Available_flug").Value()), QStringLiteral("1"));
-    EXPECT_EQ(vb::CStr(rs.Fields(u"ipaddress").Value()), QStringLiteral("10.0.0.1"));
-    EXPECT_EQ(vb::CStr(rs.Fields(u"user_name").Value()), QStringLiteral("山田太郎"));
-    EXPECT_EQ(rs.FieldIndex(u"tbl_User.Available_flug"), rs.FieldIndex(u"TBL_USER.AVAILABLE_FLUG"));
-    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Available_flug"); }), 3265) << "a bare name that two tables share answers to neither";
-    rs.Close();
 }
 
 } // namespace
