@@ -11,7 +11,7 @@
 #include <memory>
 
 // The windows' fixture with the main grid and its list made directly, offscreen. Helpers write
-// master rows in plain SQL and the saved view into DB.ini.
+// many computers in plain SQL and the saved view into DB.ini.
 class AssetListFixture : public WindowTest {
 protected:
     void SetUp() override
@@ -31,20 +31,6 @@ protected:
         grid.reset();
     }
 
-    // One row of a master table that has code, name, comment and flag.
-    void master(const QString& table, int code, const QString& name, const QString& flag = QStringLiteral("0"))
-    {
-        ledger.exec(QStringLiteral("INSERT INTO %1 VALUES (%2, '%3', '', '%4')").arg(table).arg(code).arg(name, flag));
-    }
-    void user(int code, const QString& name, const QString& flag = QStringLiteral("0"), int section = 0, int division = 0)
-    {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                                   "VALUES (%1, '%2', '%3', %4, %5)")
-                        .arg(code)
-                        .arg(name, flag)
-                        .arg(section)
-                        .arg(division));
-    }
     // Computers first to last, all on the code-0 masters, in two statements.
     void manyComputers(int first, int last)
     {

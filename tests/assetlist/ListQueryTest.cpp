@@ -65,8 +65,8 @@ TEST_F(ListQuery, OptDelChoosesInstalledRetiredOrBoth)
 
 TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
 {
-    master("tbl_Location", 1, "本社");
-    master("tbl_Location", 2, "支社");
+    ledger.master("tbl_Location", 1, "本社");
+    ledger.master("tbl_Location", 2, "支社");
     ledger.computer(1, 0, 0, "Computer_Name = 'PC-A'", "Location_Code = 2");
     ledger.computer(2, 0, 0, "Computer_Name = 'PC-B'", "Location_Code = 1");
     ledger.computer(3, 0, 0, "Computer_Name = 'PC-C'", "Location_Code = 2");

@@ -16,10 +16,10 @@ protected:
     // Three installed computers and a retired one, over masters of which user 2 is retired.
     void threeComputers()
     {
-        master(QStringLiteral("tbl_Section"), 1, QStringLiteral("総務部"));
-        master(QStringLiteral("tbl_Division"), 1, QStringLiteral("庶務課"));
-        user(1, QStringLiteral("山田太郎"), QStringLiteral("0"), 1, 1);
-        user(2, QStringLiteral("佐藤花子"), QStringLiteral("1"), 1, 1);
+        ledger.master(QStringLiteral("tbl_Section"), 1, QStringLiteral("総務部"));
+        ledger.master(QStringLiteral("tbl_Division"), 1, QStringLiteral("庶務課"));
+        ledger.user(1, QStringLiteral("山田太郎"), QStringLiteral("0"), 1, 1);
+        ledger.user(2, QStringLiteral("佐藤花子"), QStringLiteral("1"), 1, 1);
         ledger.computer(5, 0, 1,
                         "Computer_Name = 'PC-A', IPAddress = '192.168.1.5', SysHD_Full = 1000, Memory_Full = 1000, "
                         "Memory_Used = 300000, Pagefile_Used = 700000, LAN_Connection = 1, \"Update\" = '2004/01/01'",

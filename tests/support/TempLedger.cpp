@@ -95,3 +95,18 @@ void TempLedger::computer(int key, int deleted, int userCode, const QString& pcl
     if (!computerList.isEmpty())
         exec(QStringLiteral("UPDATE tbl_Computer_List SET %1 WHERE MainKey = %2").arg(computerList).arg(key));
 }
+
+void TempLedger::master(const QString& table, int code, const QString& name, const QString& flag)
+{
+    exec(QStringLiteral("INSERT INTO %1 VALUES (%2, '%3', '', '%4')").arg(table).arg(code).arg(name, flag));
+}
+
+void TempLedger::user(int code, const QString& name, const QString& flag, int section, int division)
+{
+    exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
+                        "VALUES (%1, '%2', '%3', %4, %5)")
+             .arg(code)
+             .arg(name, flag)
+             .arg(section)
+             .arg(division));
+}
