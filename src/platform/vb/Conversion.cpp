@@ -178,8 +178,6 @@ QString doubleToString(double d)
     return s;
 }
 
-double roundToEven(double d) { return std::nearbyint(d); }
-
 bool isDateZero(const QDate& d) { return d == kDateZero; }
 
 // A date as the serial number of days since the date zero, the time as its fraction (OLE dates).
@@ -322,6 +320,8 @@ std::optional<QDate> parseDatePart(QStringView s)
 
 } // namespace
 
+double RoundToEven(double d) { return std::nearbyint(d); }
+
 std::optional<double> ParseNumber(const QString& s) { return parseNumberText(s); }
 
 QDateTime MakeDate(int y, int m, int d, int h, int n, int s)
@@ -354,7 +354,7 @@ std::int16_t CInt(const Variant& v)
 {
     if (v.Type() == VarType::Integer)
         return v.integerValue();
-    const double r = roundToEven(toDouble(v));
+    const double r = RoundToEven(toDouble(v));
     if (r < -32768.0 || r > 32767.0)
         throw VbError::Overflow();
     return std::int16_t(r);
@@ -364,7 +364,7 @@ std::int32_t CLng(const Variant& v)
 {
     if (v.Type() == VarType::Long)
         return v.longValue();
-    const double r = roundToEven(toDouble(v));
+    const double r = RoundToEven(toDouble(v));
     if (r < -2147483648.0 || r > 2147483647.0)
         throw VbError::Overflow();
     return std::int32_t(r);
@@ -474,6 +474,15 @@ QString Trim(const QString& s)
     while (to > from && isTrimmed(s[to - 1]))
         --to;
     return s.mid(from, to - from);
+}
+
+Variant Concat(const Variant& a, const Variant& b)
+{
+    if (a.IsNull() && b.IsNull())
+        return Variant::Null();
+    const QString sa = a.IsNull() ? QString() : CStr(a);
+    const QString sb = b.IsNull() ? QString() : CStr(b);
+    return Variant(sa + sb);
 }
 
 std::optional<bool> Equal(const Variant& a, const Variant& b)

@@ -25,6 +25,9 @@ double Val(const QString& s);
 // U+3000. Tabs and line ends stay.
 QString Trim(const QString& s);
 
+// The & operator: Null & Null is Null; otherwise Null and Empty count as "".
+Variant Concat(const Variant& a, const Variant& b);
+
 // The = operator of two Variants: std::nullopt stands for a Null result (either side Null).
 // A number and a text that reads as a number compare as numbers, otherwise as text (the
 // number's CStr); a date against a text always compares as text. Texts compare exactly.
@@ -32,6 +35,9 @@ std::optional<bool> Equal(const Variant& a, const Variant& b);
 
 // Integer addition with VB's overflow error.
 std::int16_t IntAdd(std::int16_t a, std::int16_t b);
+
+// Rounding to even, as CInt and CLng round.
+double RoundToEven(double d);
 
 // Parses a text the way VB's conversion to a number reads it; std::nullopt when it is no number.
 std::optional<double> ParseNumber(const QString& s);

@@ -252,6 +252,16 @@ TEST(Conversion, TrimTakesBlanksAndIdeographicSpacesButNotTabs)
     EXPECT_EQ(Trim(QStringLiteral("  　 ")), QString());
 }
 
+TEST(Operators, ConcatTreatsNullAsEmptyUnlessBothAreNull)
+{
+    EXPECT_EQ(Concat(Variant::Null(), Variant::Null()), Variant::Null());
+    EXPECT_EQ(Concat(Variant::Null(), S("a")), S("a"));
+    EXPECT_EQ(Concat(Variant::Null(), Variant()), S(""));
+    EXPECT_EQ(Concat(L(1), I(2)), S("12"));
+    EXPECT_EQ(Concat(S("日付 "), D(2005, 12, 4)), S("日付 2005/12/04"));
+    EXPECT_EQ(Concat(true, S("!")), S("True!"));
+}
+
 TEST(Operators, EqualFollowsTheNullAndMixedTypeRules)
 {
     const std::optional<bool> null;
