@@ -4,7 +4,6 @@
 
 #include "assetlist/ListExport.h"
 #include "platform/text/Cp932.h"
-#include "platform/vb/Conversion.h"
 
 #include "support/AdminProcess.h"
 #include "TestPaths.h"
@@ -15,18 +14,6 @@
 using namespace Mdl_gData;
 
 namespace {
-
-QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
-
-QByteArray FileBytes(const QString& path)
-{
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly)) {
-        ADD_FAILURE() << "no file " << path.toStdString();
-        return {};
-    }
-    return f.readAll();
-}
 
 // A settings file as the view window leaves it: code page 932, CR LF.
 QByteArray Settings(const QString& text)
@@ -81,16 +68,11 @@ protected:
     // first file), on two locations; computer 4 retired as the list's retire command leaves it.
     void fillLedger()
     {
-        const QString ledgerPath = ledger.path();
-        EXPECT_EQ(Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledgerPath, Inventory(QStringLiteral("ja_pc01.csv")),
-                         Inventory(QStringLiteral("ja_pc03.txt"))})
-                      .exitCode,
-                  0);
-        EXPECT_EQ(Admin({QStringLiteral("read"), QStringLiteral("--english"), QStringLiteral("--ledger"), ledgerPath,
-                         Inventory(QStringLiteral("en_pc02.csv"))})
-                      .exitCode,
-                  0);
-        EXPECT_EQ(Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledgerPath, Inventory(QStringLiteral("ja_pc01.csv"))}).exitCode, 0);
+        const auto inventory = [](const char* name) { return TestDataPath(QStringLiteral("inventory/") + QLatin1String(name)); };
+        const QStringList read{QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path()};
+        EXPECT_EQ(Admin(read + QStringList{inventory("ja_pc01.csv"), inventory("ja_pc03.txt")}).exitCode, 0);
+        EXPECT_EQ(Admin(read + QStringList{QStringLiteral("--english"), inventory("en_pc02.csv")}).exitCode, 0);
+        EXPECT_EQ(Admin(read + QStringList{inventory("ja_pc01.csv")}).exitCode, 0);
         ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (1, '本館2F', '', '1'), (2, '本館1F', '', '0')"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 1 WHERE MainKey IN (1, 4)"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 2 WHERE MainKey IN (2, 3)"));
@@ -98,23 +80,12 @@ protected:
         ASSERT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey > 0")), QStringLiteral("4"));
     }
     void writeSettings(const QString& text) { ledger.dir().write(QStringLiteral("DB.ini"), Settings(text)); }
-    QString settingsPath() const { return ledger.dir().file(QStringLiteral("DB.ini")); }
-
-    // The main window's load: the current view from the settings file, then the list.
-    void windowLoad()
+    // export-list on the test's ledger and settings file, then the arguments given
+    AdminRun exportList(const QStringList& args)
     {
-        const QString section = mdl_ini::IniRead(QStringLiteral("Main"), QStringLiteral("SectionNumber"));
-        g.SectionNumber = section.isEmpty() ? std::int16_t(0) : vb::CInt(section);
-        loadList();
-    }
-    // What the console dialogs print for the last message box the window showed.
-    QString lastBoxOnConsole() const
-    {
-        const auto boxes = dialogs.messages();
-        if (boxes.empty())
-            return QStringLiteral("(no message box)");
-        QString text = boxes.back().prompt;
-        return boxes.back().title + QStringLiteral(": ") + text.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).trimmed();
+        return Admin(QStringList{QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"),
+                                 ledger.dir().file(QStringLiteral("DB.ini"))}
+                     + args);
     }
 
     TempDir out;
@@ -128,94 +99,76 @@ TEST_F(ExportListTest, TheCommandWritesEachViewAsTheWindowsExportDoes)
     const QByteArray view2 = ReadTestData(QStringLiteral("export/view2.csv"));
 
     // the current view of the settings file, and view 2 by number; the name is used as given
-    AdminRun r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"), settingsPath(),
-                        out.file(QStringLiteral("current"))});
+    AdminRun r = exportList({out.file(QStringLiteral("current"))});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("current"))), view1);
-    r = Admin({QStringLiteral("export-list"), QStringLiteral("--view"), QStringLiteral("2"), QStringLiteral("--ini"), settingsPath(),
-               QStringLiteral("--ledger"), ledger.path(), out.file(QStringLiteral("removed.txt"))});
+    EXPECT_EQ(out.read(QStringLiteral("current")), view1);
+    r = exportList({QStringLiteral("--view"), QStringLiteral("2"), out.file(QStringLiteral("removed.txt"))});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("removed.txt"))), view2);
+    EXPECT_EQ(out.read(QStringLiteral("removed.txt")), view2);
     EXPECT_FALSE(r.err.contains(QStringLiteral("警告"))) << r.err.toStdString();
 
     // the window, offscreen, over the same ledger and settings: its export adds ".csv" always
-    windowLoad();
+    g.SectionNumber = SavedSectionNumber();
+    loadList();
     dialogs.answerFile(out.file(QStringLiteral("window1")));
     ListExport::ExportGrid(*grid, QStringLiteral("CSV書き出し"));
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("window1.csv"))), view1);
+    EXPECT_EQ(out.read(QStringLiteral("window1.csv")), view1);
     g.SectionNumber = 2;
     loadList();
     dialogs.answerFile(out.file(QStringLiteral("window2.csv")));
     ListExport::ExportGrid(*grid, QStringLiteral("CSV書き出し"));
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("window2.csv.csv"))), view2);
+    EXPECT_EQ(out.read(QStringLiteral("window2.csv.csv")), view2);
     EXPECT_EQ(dialogs.messageTexts(), (QStringList{QStringLiteral("完了しました"), QStringLiteral("完了しました")}));
 
     // without options: pcdb.mdb and DB.ini beside the program
-    const QString program = ledger.dir().file(QStringLiteral("fenwold-admin"));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), program));
-    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
-    r = Admin({QStringLiteral("export-list"), out.file(QStringLiteral("beside"))}, program);
+    r = Admin({QStringLiteral("export-list"), out.file(QStringLiteral("beside"))}, AdminBeside(ledger.dir()));
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("beside"))), view1);
+    EXPECT_EQ(out.read(QStringLiteral("beside")), view1);
 
     // a missing settings file is view 0 without columns: the hidden key alone, in the query's order
     r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"),
                out.file(QStringLiteral("none.ini")), out.file(QStringLiteral("keys"))});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("keys"))), QByteArray(" , \r\n1, \r\n2, \r\n3, \r\n"));
-}
-
-TEST_F(ExportListTest, AListWithoutRowsIsAnEmptyFile)
-{
-    // the empty ledger holds only computer 0, which is neither installed nor removed
-    writeSettings(QStringLiteral("[Main]\nSectionNumber=2\n[2]\nOptDel=1\nMSFlexGrit_SelectNum=1\nMSFlexGrit_Select1=8\n"));
-    out.write(QStringLiteral("list.csv"), QByteArray("an older export\r\n"));
-    const AdminRun r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"),
-                              settingsPath(), out.file(QStringLiteral("list.csv"))});
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_TRUE(QFile::exists(out.file(QStringLiteral("list.csv"))));
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("list.csv"))), QByteArray());
+    EXPECT_EQ(out.read(QStringLiteral("keys")), QByteArray(" , \r\n1, \r\n2, \r\n3, \r\n"));
 }
 
 TEST_F(ExportListTest, FailuresPrintTheWindowsErrorBoxAndEndWithStatusOne)
 {
-    computer(5, 0, 0, QStringLiteral("Computer_Name = 'PC-A'"));
+    ledger.computer(5, 0, 0, "Computer_Name = 'PC-A'");
     const QString target = out.file(QStringLiteral("list.csv"));
-    const auto run = [&](const QString& settings, const QStringList& extra = {}) {
-        writeSettings(settings);
-        return Admin(QStringList{QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"), settingsPath()}
-                     + extra + QStringList{target});
-    };
 
     // a sort key the engine does not know fails when the list is opened; the command prints
     // what the window's error box shows, and writes nothing
-    AdminRun r = run(QStringLiteral("[Main]\nSectionNumber=3\n[3]\nSelectNumber=1\nKeyName0=Computer_Nmae\nKeyASCDESC0=ASC\n"));
+    writeSettings(QStringLiteral("[Main]\nSectionNumber=3\n[3]\nSelectNumber=1\nKeyName0=Computer_Nmae\nKeyASCDESC0=ASC\n"));
+    AdminRun r = exportList({target});
     EXPECT_EQ(r.exitCode, 1);
-    windowLoad();
+    g.SectionNumber = 3;
+    loadList();
     ASSERT_EQ(errorBoxes().size(), 1u);
-    EXPECT_TRUE(r.err.contains(lastBoxOnConsole())) << r.err.toStdString() << "\nwindow: " << lastBoxOnConsole().toStdString();
+    QString shown = dialogs.messages().back().prompt;
+    shown = QStringLiteral("警告: ") + shown.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).trimmed();
+    EXPECT_TRUE(r.err.contains(shown)) << r.err.toStdString() << "\nwindow: " << shown.toStdString();
     EXPECT_FALSE(QFile::exists(target));
 
     // a current view number that is no number stops the load as it stops the window's
-    r = run(QStringLiteral("[Main]\nSectionNumber=two\n"));
+    writeSettings(QStringLiteral("[Main]\nSectionNumber=two\n"));
+    r = exportList({target});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("警告: （エラーコード：13）"))) << r.err.toStdString();
     EXPECT_FALSE(QFile::exists(target));
     // ... while --view does not read it
-    r = run(QStringLiteral("[Main]\nSectionNumber=two\n"), {QStringLiteral("--view"), QStringLiteral("0")});
+    r = exportList({QStringLiteral("--view"), QStringLiteral("0"), target});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(FileBytes(target), QByteArray(" , \r\n5, \r\n"));
-
-    // a file that cannot be made
-    const QString noSettings = out.file(QStringLiteral("none.ini"));
-    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger.path(), QStringLiteral("--ini"), noSettings,
-               out.file(QStringLiteral("no/such/folder.csv"))});
-    EXPECT_EQ(r.exitCode, 1);
-    EXPECT_TRUE(r.err.contains(QStringLiteral("警告: （エラーコード：76）"))) << r.err.toStdString();
+    EXPECT_EQ(out.read(QStringLiteral("list.csv")), QByteArray(" , \r\n5, \r\n"));
+    // a list without rows is no failure: the file is replaced by an empty one
+    writeSettings(QStringLiteral("[Main]\nSectionNumber=2\n[2]\nOptDel=1\nMSFlexGrit_SelectNum=1\nMSFlexGrit_Select1=8\n"));
+    r = exportList({target});
+    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+    EXPECT_TRUE(QFile::exists(target));
+    EXPECT_EQ(out.read(QStringLiteral("list.csv")), QByteArray());
 
     // no ledger
-    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), out.file(QStringLiteral("pcdb.mdb")), QStringLiteral("--ini"), noSettings,
-               out.file(QStringLiteral("a.csv"))});
+    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), out.file(QStringLiteral("pcdb.mdb")), out.file(QStringLiteral("a.csv"))});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("no ledger at ") + out.file(QStringLiteral("pcdb.mdb")))) << r.err.toStdString();
     EXPECT_FALSE(QFile::exists(out.file(QStringLiteral("a.csv"))));
@@ -224,53 +177,31 @@ TEST_F(ExportListTest, FailuresPrintTheWindowsErrorBoxAndEndWithStatusOne)
 TEST_F(ExportListTest, UsageErrorsEndWithStatusOneAndWriteNothing)
 {
     const QString a = out.file(QStringLiteral("a.csv"));
-    const QString b = out.file(QStringLiteral("b.csv"));
-    const QString l = ledger.path();
-    const std::vector<QStringList> cases = {
-        {QStringLiteral("export-list")},
-        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l},
-        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, a, b},
-        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--view"), QStringLiteral("8"), a},
-        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--view"), QStringLiteral("one"), a},
-        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, a, QStringLiteral("--view")},
-        {QStringLiteral("export-list"), QStringLiteral("--ledger"), l, QStringLiteral("--csv"), a},
+    const QStringList cases[] = {
+        {}, {a, out.file(QStringLiteral("b.csv"))}, {QStringLiteral("--view"), QStringLiteral("8"), a},
+        {QStringLiteral("--view"), QStringLiteral("one"), a}, {a, QStringLiteral("--view")}, {QStringLiteral("--csv"), a},
     };
     for (const QStringList& args : cases) {
-        const AdminRun r = Admin(args);
+        const AdminRun r = exportList(args);
         const std::string shown = args.join(QLatin1Char(' ')).toStdString();
         EXPECT_EQ(r.exitCode, 1) << shown;
         EXPECT_TRUE(r.err.contains(QStringLiteral("usage: fenwold-admin export-list [--ledger PATH] [--ini PATH] [--view N] OUT"))) << shown;
-        EXPECT_FALSE(QFile::exists(a)) << shown;
-        EXPECT_FALSE(QFile::exists(b)) << shown;
+        EXPECT_TRUE(QDir(out.path()).isEmpty()) << shown;
     }
 }
 
-// The file routine on a grid the main list filled.
+// The file routine on a grid the main list filled: the key column's heading is one blank, the
+// row numbers are left out, the last field of a line has its comma too, and 1,045MB becomes two
+// fields.
 TEST_F(ExportListTest, WriteGridWritesTheShownTextsAndSplitsAThousandsComma)
 {
-    computer(5, 0, 0, QStringLiteral("Computer_Name = 'PC-A', Memory_Full = 1044612, LAN_Connection = 1"));
-    computer(6, 0, 0, QStringLiteral("Computer_Name = 'PC-B', Memory_Full = 1000"));
-    g.SectionNumber = 1;
-    writeColumns(1, {8, 28, 45});
+    ledger.computer(5, 0, 0, "Computer_Name = 'PC-A', Memory_Full = 1044612, LAN_Connection = 1");
+    ledger.computer(6, 0, 0, "Computer_Name = 'PC-B', Memory_Full = 1000");
+    writeColumns(0, {8, 28, 45});
     ASSERT_TRUE(loadList());
     ListExport::WriteGrid(*grid, out.file(QStringLiteral("list.csv")));
-    // the key column's heading is one blank; the row numbers are left out; the last field of a
-    // line has its comma too; 1,045MB becomes two fields
-    const QByteArray memory = "\x83\x81\x83\x82\x83\x8a\x91\x53\x97\x65\x97\xca";   // メモリ全容量
-    const QByteArray lan = "LAN\x8c\x6f\x97\x52";                                     // LAN経由
-    const QByteArray enabled = "\x97\x4c\x8c\xf8";                                     // 有効
-    const QByteArray name = "\x83\x52\x83\x93\x83\x73\x83\x85\x81\x5b\x83\x5e\x96\xbc";   // コンピュータ名
-    const QByteArray expected = QByteArray(" ,") + name + ',' + memory + ',' + lan + ", \r\n"
-                                + "5,PC-A,1,045MB," + enabled + ", \r\n"
-                                + "6,PC-B,1000,, \r\n";
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("list.csv"))), expected);
-
-    // a list without rows leaves a grid without rows or columns, and the file empty
-    ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1"));
-    EXPECT_FALSE(loadList());
-    ASSERT_EQ(grid->Rows(), 0);
-    ListExport::WriteGrid(*grid, out.file(QStringLiteral("list.csv")));
-    EXPECT_EQ(FileBytes(out.file(QStringLiteral("list.csv"))), QByteArray());
+    EXPECT_EQ(out.read(QStringLiteral("list.csv")),
+              text::ToCp932(QStringLiteral(" ,コンピュータ名,メモリ全容量,LAN経由, \r\n5,PC-A,1,045MB,有効, \r\n6,PC-B,1000,, \r\n")));
 }
 
 } // namespace

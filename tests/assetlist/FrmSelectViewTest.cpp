@@ -5,14 +5,11 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFile>
 #include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPointer>
 #include <QRadioButton>
-#include <QTest>
+#include <QRegularExpression>
 
 #include <array>
 #include <initializer_list>
@@ -40,22 +37,16 @@ protected:
         for (int i = 0; i <= 7; ++i)
             g.ViewNames[i] = QStringLiteral(" ");
         // three installed computers and a retired one, all on the code-0 masters
-        computer(1, 0, 0, QStringLiteral("Computer_Name = 'PC-A', Workgroup = 'W3'"));
-        computer(2, 0, 0, QStringLiteral("Computer_Name = 'PC-C', Workgroup = 'W1'"));
-        computer(3, 0, 0, QStringLiteral("Computer_Name = 'PC-B', Workgroup = 'W2'"));
-        computer(4, 1, 0, QStringLiteral("Computer_Name = 'PC-X'"));
-    }
-    void TearDown() override
-    {
-        delete form.data();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        AssetListFixture::TearDown();
+        ledger.computer(1, 0, 0, "Computer_Name = 'PC-A', Workgroup = 'W3'");
+        ledger.computer(2, 0, 0, "Computer_Name = 'PC-C', Workgroup = 'W1'");
+        ledger.computer(3, 0, 0, "Computer_Name = 'PC-B', Workgroup = 'W2'");
+        ledger.computer(4, 1, 0, "Computer_Name = 'PC-X'");
     }
 
     // The window as the main window opens it: modal, over the view in memory.
     frm_SelectView& open()
     {
-        form = new frm_SelectView;
+        form = &frm_SelectView::Instance();
         form->Show(ui::vbModal);
         return *form;
     }
@@ -124,14 +115,6 @@ protected:
         }
         return out;
     }
-    QStringList listedKeys() const
-    {
-        QStringList out;
-        for (int r = 1; r < grid->Rows(); ++r)
-            out << grid->TextMatrix(r, 1);
-        return out;
-    }
-
     // Writes the sort keys of a saved view: field, caption and direction of each, in slot order;
     // a null direction is left out.
     void writeSortKeys(int section, const std::vector<std::array<const char*, 3>>& keys)
@@ -187,7 +170,6 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAtItsFixedSize)
 
     EXPECT_FALSE(f.Mnu_Update->isEnabled()) << "nothing changed yet";
     EXPECT_EQ(viewMenu(), us({"0:全体", "1: ", "*2:撤去分", "3: ", "4: ", "5: ", "6: ", "7: "}));
-    EXPECT_EQ(f.Mnu_Close->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_W));
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
@@ -255,13 +237,9 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->Mnu_Update->trigger();
 
     EXPECT_EQ(g.SelectNumber, 2);
-    for (int i = 0; i <= 2; ++i) {
-        const char* const want[3][3] = {
-            {"Computer_Name", "コンピュータ名", "DESC"}, {"Workgroup", "ワークグループ", "DESC"}, {"", " ", "DESC"}};
-        EXPECT_EQ(g.SortKeyName[i], u(want[i][0])) << i;
-        EXPECT_EQ(g.SortKeyCaption[i], u(want[i][1])) << i;
-        EXPECT_EQ(g.SortKeyDirection[i], u(want[i][2])) << i;
-    }
+    EXPECT_EQ(iniSection(u("0")).filter(QRegularExpression(QStringLiteral("^Key"))),
+              us({"KeyName0=Computer_Name", "KeyName1=Workgroup", "KeyName2=", "KeyCaption0=コンピュータ名",
+                  "KeyCaption1=ワークグループ", "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC"}));
     EXPECT_TRUE(g.ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << g.ListSql.toStdString();
     EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));
@@ -306,7 +284,7 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
     form->close();
     EXPECT_TRUE(form.isNull() || form->IsUnloaded());
     EXPECT_TRUE(iniSection(u("Main")).isEmpty());
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    flushDeletes();
 
     // ... the menu's close does
     open();

@@ -1,10 +1,10 @@
 #include "foundation/Mdl_Access_mdb.h"
 
-#include "FoundationFixture.h"
+#include "support/VbErrors.h"
+#include "support/WindowTest.h"
 
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
-#include "support/VbErrors.h"
 
 #include <QFile>
 
@@ -13,42 +13,11 @@ using vb::VbError;
 
 namespace {
 
-class Access : public FoundationFixture {
-protected:
-    void SetUp() override
-    {
-        FoundationFixture::SetUp();
-        ledger.closeConnection();
-        ASSERT_TRUE(ConnectDatabase());
-    }
-};
+using Access = WindowTest;
 
-TEST(AccessStart, WithoutTheLedgerTheStatusPanelSaysWhereItWasLookedFor)
-{
-    Mdl_gData::Reset();
-    TempDir folder;
-    app::SetPath(folder.path());
-    QString status;
-    Mdl_gData::g.StatusPanelText = [&](const QString& t) { status = t; };
-    ScriptedDialogs dialogs;
-    EXPECT_FALSE(ConnectDatabase());
-    EXPECT_EQ(status, QStringLiteral("DBファイルが見つかりません。\r\nData Source=") + folder.path()
-                          + QStringLiteral("/pcdb.mdbを確認ください"));
-    EXPECT_TRUE(dialogs.calls().empty());
-    EXPECT_FALSE(DisconnectDatabase());
-
-    // a file that is no ledger: the engine refuses it and the error box says so
-    folder.write(QStringLiteral("pcdb.mdb"), QByteArray(4096, 'x'));
-    EXPECT_FALSE(ConnectDatabase());
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
-    EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbCritical);
-    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("認識できないデータベース形式")));
-    Mdl_gData::Reset();
-    app::SetPath(QString());
-}
-
-TEST_F(Access, ConnectsAndDisconnectsOnce)
+// Without a ledger the window's status panel says why (the main window's tests show it); a file
+// that is no ledger is refused by the engine, and the error box says so.
+TEST_F(Access, ConnectsAndDisconnectsOnceAndRefusesAFileThatIsNoLedger)
 {
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen);
     EXPECT_TRUE(DisconnectDatabase());
@@ -56,6 +25,17 @@ TEST_F(Access, ConnectsAndDisconnectsOnce)
     EXPECT_FALSE(DisconnectDatabase());
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateClosed) << "a later use finds a new, unopened object";
     EXPECT_TRUE(dialogs.calls().empty());
+
+    TempDir folder;
+    app::SetPath(folder.path());
+    EXPECT_FALSE(ConnectDatabase());
+    EXPECT_TRUE(dialogs.calls().empty());
+    folder.write(QStringLiteral("pcdb.mdb"), QByteArray(4096, 'x'));
+    EXPECT_FALSE(ConnectDatabase());
+    ASSERT_EQ(dialogs.messages().size(), 1u);
+    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
+    EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbCritical);
+    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("認識できないデータベース形式")));
 }
 
 TEST_F(Access, StandardErrorBoxShowsNumberAndDescription)

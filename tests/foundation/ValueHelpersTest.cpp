@@ -52,15 +52,6 @@ TEST(DigitsToNumber, ReadsEveryDigitFromTheRight)
         EXPECT_EQ(Mdl_Sub::DigitsToNumber(QString::fromUtf8(c.text)), c.number) << c.text;
 }
 
-TEST(ByteLength, CountsFullWidthAsTwo)
-{
-    EXPECT_EQ(Mdl_Sub::ByteLength(QStringLiteral("あいう")), 6);
-    EXPECT_EQ(Mdl_Sub::ByteLength(QStringLiteral("abc")), 3);
-    EXPECT_EQ(Mdl_Sub::ByteLength(QStringLiteral("ｱｲｳ")), 3);
-    EXPECT_EQ(Mdl_Sub::ByteLength(QStringLiteral("Office 2003 日本語版")), 20);
-    EXPECT_EQ(Mdl_Sub::ByteLength(QString()), 0);
-}
-
 TEST(SetFocusColor, PaleCyanWithFocusWhiteWithout)
 {
     QLineEdit box;

@@ -2,7 +2,6 @@
 #include "support/AdminProcess.h"
 #include "support/TempDir.h"
 #include "support/TempLedger.h"
-#include "TestPaths.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -13,40 +12,23 @@
 
 #include <gtest/gtest.h>
 
-#include <sqlite3.h>
-
 namespace {
-
-
 
 // What every copy of a ledger must be: whole by SQLite's check, and each of its computers
 // complete (the read made each from the same file). Returns how many computers it holds.
 int ExpectWholeLedger(const QString& path)
 {
-    sqlite3* raw = nullptr;
-    EXPECT_EQ(sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READONLY, nullptr), SQLITE_OK);
-    std::unique_ptr<sqlite3, decltype(&sqlite3_close)> db(raw, &sqlite3_close);
-    auto value = [&](const QString& sql) {
-        sqlite3_stmt* st = nullptr;
-        EXPECT_EQ(sqlite3_prepare_v2(db.get(), sql.toUtf8().constData(), -1, &st, nullptr), SQLITE_OK) << sql.toStdString();
-        QString out;
-        if (sqlite3_step(st) == SQLITE_ROW)
-            out = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-        sqlite3_finalize(st);
-        return out;
-    };
-    EXPECT_EQ(value(QStringLiteral("PRAGMA integrity_check")), QStringLiteral("ok"));
-    EXPECT_EQ(value(QStringLiteral("PRAGMA journal_mode")), QStringLiteral("delete"));
+    const auto value = [&](const char* sql) { return LedgerRows(path, QString::fromUtf8(sql)).value(0); };
+    EXPECT_EQ(value("PRAGMA integrity_check"), QStringLiteral("ok"));
+    EXPECT_EQ(value("PRAGMA journal_mode"), QStringLiteral("delete"));
     // every computer has its inventory row and all its per-computer rows, or is absent
-    EXPECT_EQ(value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey NOT IN (SELECT MainKey FROM tbl_Pclist)")),
-              QStringLiteral("0"));
-    EXPECT_EQ(value(QStringLiteral("SELECT count(*) FROM tbl_Pclist WHERE MainKey > 0 AND Computer_Name IS NOT 'PC-SOUMU-01'")),
-              QStringLiteral("0"));
-    const int computers = value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List WHERE MainKey > 0")).toInt();
+    EXPECT_EQ(value("SELECT count(*) FROM tbl_Computer_List WHERE MainKey NOT IN (SELECT MainKey FROM tbl_Pclist)"), QStringLiteral("0"));
+    EXPECT_EQ(value("SELECT count(*) FROM tbl_Pclist WHERE MainKey > 0 AND Computer_Name IS NOT 'PC-SOUMU-01'"), QStringLiteral("0"));
+    const int computers = value("SELECT count(*) FROM tbl_Computer_List WHERE MainKey > 0").toInt();
     if (computers > 0) {
-        EXPECT_EQ(value(QStringLiteral("SELECT group_concat(n) FROM (SELECT DISTINCT (SELECT count(*) FROM tbl_ApplicationsList a "
-                                       "WHERE a.\"Key\" = c.MainKey) || '/' || (SELECT count(*) FROM tbl_Environmental e "
-                                       "WHERE e.\"Key\" = c.MainKey) AS n FROM tbl_Computer_List c WHERE MainKey > 0)")),
+        EXPECT_EQ(value("SELECT group_concat(n) FROM (SELECT DISTINCT (SELECT count(*) FROM tbl_ApplicationsList a "
+                        "WHERE a.\"Key\" = c.MainKey) || '/' || (SELECT count(*) FROM tbl_Environmental e "
+                        "WHERE e.\"Key\" = c.MainKey) AS n FROM tbl_Computer_List c WHERE MainKey > 0)"),
                   QStringLiteral("5/3"));
     }
     return computers;
@@ -67,7 +49,7 @@ TEST(Backup, CopiesALedgerWhileAReadWritesItAndNeverOverwrites)
         read << QStringLiteral("a.csv");
     QProcess reader;
     reader.setWorkingDirectory(inventory.path());
-    reader.start(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), read);
+    reader.start(kAdminProgram, read);
     ASSERT_TRUE(reader.waitForStarted());
 
     QStringList copies;
@@ -90,15 +72,11 @@ TEST(Backup, CopiesALedgerWhileAReadWritesItAndNeverOverwrites)
     EXPECT_EQ(ExpectWholeLedger(ledger.path()), kFiles);
 
     // an existing file stays as it was; no ledger, no copy
-    QFile existing(out.file(QStringLiteral("existing.mdb")));
-    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
-    existing.write("mine");
-    existing.close();
-    AdminRun r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), ledger.path(), existing.fileName()});
+    out.write(QStringLiteral("existing.mdb"), "mine");
+    AdminRun r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), ledger.path(), out.file(QStringLiteral("existing.mdb"))});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("never overwrites"))) << r.err.toStdString();
-    ASSERT_TRUE(existing.open(QIODevice::ReadOnly));
-    EXPECT_EQ(existing.readAll(), QByteArray("mine"));
+    EXPECT_EQ(out.read(QStringLiteral("existing.mdb")), QByteArray("mine"));
     r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), out.file(QStringLiteral("none.mdb")), out.file(QStringLiteral("x.mdb"))});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_FALSE(QFileInfo::exists(out.file(QStringLiteral("x.mdb"))));
@@ -113,8 +91,7 @@ protected:
 
 TEST_F(Check, AGoodLedgerIsOk)
 {
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code) VALUES (1, 0, 0)"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey) VALUES (1)"));
+    ledger.computer(1);
     ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (1, 'x')"));
     const AdminRun r = check(ledger.path());
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
@@ -176,11 +153,8 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
     EXPECT_EQ(QSet<QString>(r.out.begin(), r.out.end()).size(), r.out.size()) << r.out.join(QLatin1Char('\n')).toStdString();
 
     TempDir dir;
-    QFile text(dir.file(QStringLiteral("notes.txt")));
-    ASSERT_TRUE(text.open(QIODevice::WriteOnly));
-    text.write(QByteArray("MainKey,Computer_Name\r\n1,PC-01\r\n").repeated(200));
-    text.close();
-    r = check(text.fileName());
+    dir.write(QStringLiteral("notes.txt"), QByteArray("MainKey,Computer_Name\r\n1,PC-01\r\n").repeated(200));
+    r = check(dir.file(QStringLiteral("notes.txt")));
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.out.isEmpty());
     EXPECT_FALSE(r.err.isEmpty());

@@ -4,8 +4,6 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FlexGrid.h"
 
-#include "support/TempLedger.h"
-
 #include <QAction>
 #include <QFile>
 
@@ -18,23 +16,14 @@ protected:
     void SetUp() override
     {
         ShellFixture::SetUp();
-        for (int key : {1, 2}) {
-            ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
-                                       "Model_Code, Deleted_Flug) VALUES (%1, 0, 0, 0, 0, 0)")
-                            .arg(key));
-            ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (%1, 'PC-%1')").arg(key));
-        }
-        ledger.dir().write(QStringLiteral("DB.ini"), "[0]\r\nMSFlexGrit_SelectNum=1\r\nMSFlexGrit_Select1=8\r\n");
-        ledger.closeConnection();
+        computersNamed({1, 2});
     }
-    frm_Main& start() { return ShellFixture::start(ledger.folder()); }
     void click(frm_Main& m, int row)
     {
         m.MSFlexGrid_Main->SetRow(row);
         Q_EMIT m.MSFlexGrid_Main->Click();
     }
 
-    TempLedger ledger;
     TempDir out;
 };
 
@@ -53,36 +42,29 @@ TEST_F(ListMenus, ExportAddsTheExtensionAndSaysItIsDone)
     EXPECT_TRUE(ended.empty());
 }
 
-TEST_F(ListMenus, EditAndViewItemsRunTheirCommandsAndSetTheMenuState)
+TEST_F(ListMenus, EachCommandDisablesItsOwnItemOnly)
 {
     frm_Main& m = start();
+    m.Mnu_Search->trigger();
+    dialogs.answerMessage(ui::vbNo);
+    m.Mnu_AddNew->trigger();
+    EXPECT_EQ(dialogs.calls().at(0).prompt, QStringLiteral("検索する単語を入力してください"));
+    EXPECT_EQ(dialogs.calls().at(1).prompt, QStringLiteral("レコードを新規作成しますか？"));
+
     click(m, 2);
     ASSERT_EQ(m.List()->CurrentMainKey, 2);
-
-    // retiring disables its own item only
     dialogs.answerInput(QStringLiteral("2006/03/31"));
     m.Mnu_ReplacePC->trigger();
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Remove_Date FROM tbl_Computer_List WHERE MainKey = 2")), QStringLiteral("2006/03/31"));
     EXPECT_FALSE(m.Mnu_ReplacePC->isEnabled());
     EXPECT_TRUE(m.Mnu_Delete->isEnabled());
     EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
-    EXPECT_EQ(m.MSFlexGrid_Main->Rows(), 2);
 
-    // deleting disables its own item only
     click(m, 1);
     m.Mnu_Delete->trigger();
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_Pclist WHERE MainKey = 1")), QStringLiteral("0"));
     EXPECT_FALSE(m.Mnu_Delete->isEnabled());
     EXPECT_TRUE(m.Mnu_ReplacePC->isEnabled());
-
-    // the deleted one was the last listed: a new record waits for a fill that finds rows
-    dialogs.clear();
-    m.Mnu_AddNew->trigger();
-    EXPECT_TRUE(dialogs.calls().empty());
-
-    dialogs.answerInput(QStringLiteral("PC"));
-    m.Mnu_Search->trigger();
-    EXPECT_EQ(dialogs.messageTexts(), QStringList{QStringLiteral("見つかりませんでした")});
 
     m.Mnu_ViewUpdate->trigger();
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());

@@ -8,12 +8,8 @@
 #include "platform/ui/StatusBar.h"
 #include "platform/ui/Twips.h"
 
-#include "support/TempLedger.h"
-
 #include <QAction>
 #include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
 #include <QTest>
@@ -22,162 +18,41 @@ namespace {
 
 class MainWindow : public ShellFixture {
 protected:
-    void SetUp() override
-    {
-        ShellFixture::SetUp();
-        ledger.closeConnection();
-    }
-    frm_Main& start() { return ShellFixture::start(ledger.folder()); }
     QAction* action(frm_Main& m, const char* name) { return m.findChild<QAction*>(QString::fromUtf8(name)); }
-
-    TempLedger ledger;
-    TempDir noLedger;
 };
 
-struct Item {
-    const char* name;
-    const char* caption;   // "-" for a separator
-    const char* shortcut;
-};
-
-// caption, then padding: the menu bar's captions are widened with ideographic blanks
-QString padded(const char* caption, int blanks) { return QString::fromUtf8(caption) + QString(blanks, QChar(0x3000)); }
-
-TEST_F(MainWindow, MenuTreeHasTheSystemsCaptionsShortcutsAndOrder)
+TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensItsProfile)
 {
-    frm_Main& m = start();
-    const struct {
-        const char* name;
-        QString title;
-        std::vector<Item> items;
-    } menus[] = {
-        {"Mnu_Files", padded("ファイル", 7),
-         {{"Mnu_Read_Sondex", "Sondexデータ読込", "Ctrl+O"}, {"sepalate01", "-", ""}, {"Mnu_View_INPORT", "インポート", ""},
-          {"Mnu_View_EXPORT", "エクスポート", ""}, {"sepalate02", "-", ""}, {"Mnu_Program_Quit", "終了する", "Ctrl+Q"}}},
-        {"Mnu_Edit", padded("編集", 8),
-         {{"Mnu_AddNew", "新規作成      ", "Ctrl+N"}, {"sepalate04", "-", ""}, {"Mnu_Search", "検索", "Ctrl+F"},
-          {"sepalate05", "-", ""}, {"Mnu_Delete", "削除", ""}, {"Mnu_ReplacePC", "廃棄登録", ""}}},
-        {"Mnu_Managements", padded("管理", 9),
-         {{"Mnu_Edit_Users", "ユーザ", ""}, {"Mnu_Edit_Table_1", "部署", ""}, {"Mnu_Edit_Table_2", "課", ""},
-          {"Mnu_Edit_Table_3", "設置場所", ""}, {"Mnu_Edit_Table_4", "メーカー", ""}, {"Mnu_Edit_Table_5", "モデル", ""},
-          {"separator07", "-", ""}, {"Mnu_Edit_profile", "PCのプロファイル", ""}, {"Mnu_Edit_License", "ライセンス", ""},
-          {"Mnu_Mail_Manegement", "メールアドレス", ""}, {"Mnu_Network_Manegement", "ネットワーク", ""},
-          {"sepalate03", "-", ""}, {"View_ApplicationList", "アプリケーション一覧", ""}, {"Mnu_PrinterList", "プリンタ一覧", ""}}},
-        {"Mnu_View", padded("表示", 9),
-         {{"Mnu_About", "アバウト", ""}, {"sepalate06", "-", ""}, {"Mnu_ViewUpdate", "画面更新", ""},
-          {"Mnu_View_Select", "表示条件変更", ""}}},
-    };
-    QStringList bar;
-    for (QAction* a : m.MenuBar->actions())
-        bar << a->text();
-    ASSERT_EQ(bar.size(), 4);
-    for (size_t i = 0; i < 4; ++i) {
-        const auto& want = menus[i];
-        EXPECT_EQ(bar[qsizetype(i)], want.title) << want.name;
-        const QMenu* menu = m.findChild<QMenu*>(QString::fromUtf8(want.name));
-        ASSERT_NE(menu, nullptr) << want.name;
-        EXPECT_EQ(menu->title(), want.title);
-        const QList<QAction*> got = menu->actions();
-        ASSERT_EQ(size_t(got.size()), want.items.size()) << want.name;
-        for (size_t k = 0; k < want.items.size(); ++k) {
-            const Item& item = want.items[k];
-            const QAction* a = got[qsizetype(k)];
-            EXPECT_EQ(a->objectName(), QString::fromUtf8(item.name));
-            if (QString::fromUtf8(item.caption) == QLatin1String("-")) {
-                EXPECT_TRUE(a->isSeparator()) << item.name;
-                continue;
-            }
-            EXPECT_EQ(a->text(), QString::fromUtf8(item.caption)) << item.name;
-            EXPECT_EQ(a->shortcut(), QKeySequence(QString::fromUtf8(item.shortcut))) << item.name;
-        }
-    }
-    EXPECT_EQ(m.windowTitle(), QStringLiteral("Fenwold"));
-    EXPECT_FALSE(m.windowIcon().isNull());
-    EXPECT_EQ(m.MSFlexGrid_Main->objectName(), QStringLiteral("MSFlexGrid_Main"));
-    EXPECT_EQ(m.StatusBar1->objectName(), QStringLiteral("StatusBar1"));
-    EXPECT_EQ(QFontInfo(m.MSFlexGrid_Main->font()).family(), QStringLiteral("IPAGothic"));
-    EXPECT_EQ(QFontInfo(m.StatusBar1->font()).family(), QStringLiteral("IPAGothic"));
-    EXPECT_TRUE(dialogs.calls().empty());
-}
-
-TEST_F(MainWindow, ProfileDeleteAndRetireFollowTheSelection)
-{
-    frm_Main& m = start();
-    MainList& list = *m.List();
-    QStringList on, off;
-    for (QAction* a : m.findChildren<QAction*>())
-        if (!a->isSeparator() && !a->menu())
-            (a->isEnabled() ? on : off) << a->objectName();
-    off.sort();
-    EXPECT_EQ(off, (QStringList{QStringLiteral("Mnu_Delete"), QStringLiteral("Mnu_Edit_profile"), QStringLiteral("Mnu_ReplacePC")}));
-    EXPECT_EQ(on.size(), 20);
-    EXPECT_EQ(list.CurrentMainKey, 0);
-
-    // what the list's click enables reaches these menu items
-    for (auto item : {MainList::Mnu_Edit_profile, MainList::Mnu_Delete, MainList::Mnu_ReplacePC, MainList::Mnu_View_Select})
-        list.SetMenuEnabled(item, true);
-    EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
-    EXPECT_TRUE(m.Mnu_Delete->isEnabled());
-    EXPECT_TRUE(m.Mnu_ReplacePC->isEnabled());
-    list.SetMenuEnabled(MainList::Mnu_Delete, false);
-    EXPECT_FALSE(m.Mnu_Delete->isEnabled());
-
-    // without a selection the profile does not open
-    list.CurrentRow = 4;
-    m.Mnu_Edit_profile->trigger();
-    EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), nullptr);
-    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 0);
-    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 4);
-    EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
-
-    // with one it opens beside the main window and the item goes off
-    list.CurrentMainKey = 12;
-    list.CurrentRow = 3;
-    m.Mnu_Edit_profile->trigger();
-    ui::Form* profile = window(QStringLiteral("frm_Edit_Computer"));
-    ASSERT_NE(profile, nullptr);
-    EXPECT_EQ(profile->windowModality(), Qt::NonModal);
-    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 12);
-    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 3);
-    EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
-
-    // the double-click takes the same steps, on the same window
-    m.Mnu_Edit_profile->setEnabled(true);
-    list.CurrentMainKey = 15;
-    list.CurrentRow = 5;
-    Q_EMIT m.MSFlexGrid_Main->DblClick();
-    EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), profile);
-    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 15);
-    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 5);
-    EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
-}
-
-TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensIt)
-{
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
-                               "Deleted_Flug) VALUES (5, 0, 0, 0, 0, 0)"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (5, 'PC-SOUMU-05')"));
-    ledger.dir().write(QStringLiteral("DB.ini"), "[0]\r\nMSFlexGrit_SelectNum=1\r\nMSFlexGrit_Select1=8\r\n");
-    ledger.closeConnection();
+    computersNamed({5});
     frm_Main& m = start();
     m.Show();
     QCoreApplication::processEvents();
     ui::FlexGrid& grid = *m.MSFlexGrid_Main;
-    ASSERT_EQ(grid.Rows(), 2);
-    ASSERT_EQ(grid.TextMatrix(1, 2), QStringLiteral("PC-SOUMU-05"));
-    EXPECT_FALSE(m.Mnu_Delete->isEnabled());
+    EXPECT_EQ(m.windowTitle(), QStringLiteral("Fenwold"));
+    EXPECT_EQ(QFontInfo(grid.font()).family(), QStringLiteral("IPAGothic"));
+    EXPECT_EQ(QFontInfo(m.StatusBar1->font()).family(), QStringLiteral("IPAGothic"));
+    ASSERT_EQ(grid.TextMatrix(1, 2), QStringLiteral("PC-5"));
+    for (const QAction* a : {m.Mnu_Edit_profile, m.Mnu_Delete, m.Mnu_ReplacePC})
+        EXPECT_FALSE(a->isEnabled()) << a->objectName().toStdString() << " before a selection";
+
+    // without a selection the profile does not open
+    m.Mnu_Edit_profile->setEnabled(true);
+    m.Mnu_Edit_profile->trigger();
+    EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), nullptr);
+    EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
 
     const QRect cell = grid.CellRect(1, 2);
-    ASSERT_FALSE(cell.isEmpty());
     QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
     EXPECT_EQ(m.List()->CurrentMainKey, 5);
-    EXPECT_TRUE(m.Mnu_Edit_profile->isEnabled());
-    EXPECT_TRUE(m.Mnu_Delete->isEnabled());
-    EXPECT_TRUE(m.Mnu_ReplacePC->isEnabled());
-    EXPECT_TRUE(m.Mnu_View_Select->isEnabled());
+    for (const QAction* a : {m.Mnu_Edit_profile, m.Mnu_Delete, m.Mnu_ReplacePC, m.Mnu_View_Select})
+        EXPECT_TRUE(a->isEnabled()) << a->objectName().toStdString();
 
+    // it opens beside the main window, on that computer, and its item goes off; a second
+    // double-click takes the same steps on the same window
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
-    ASSERT_NE(window(QStringLiteral("frm_Edit_Computer")), nullptr);
+    ui::Form* profile = window(QStringLiteral("frm_Edit_Computer"));
+    ASSERT_NE(profile, nullptr);
+    EXPECT_EQ(profile->windowModality(), Qt::NonModal);
     EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 5);
     EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 1);
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
@@ -186,6 +61,11 @@ TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensIt
     ASSERT_EQ(dialogs.messages().size(), 1u);
     EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
     EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("（エラーコード：94）")));
+    m.Mnu_Edit_profile->setEnabled(true);
+    m.List()->CurrentMainKey = 15;
+    Q_EMIT grid.DblClick();
+    EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), profile);
+    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 15);
 }
 
 TEST_F(MainWindow, AboutBoxIsModalAndClosesWithOk)
@@ -210,7 +90,7 @@ TEST_F(MainWindow, AboutBoxIsModalAndClosesWithOk)
 TEST_F(MainWindow, MenusOpenTheirWindowsWithTheirModality)
 {
     // Without the ledger the geometry globals stay 0 at load, so the step that fills them shows.
-    frm_Main& m = ShellFixture::start(noLedger.path());
+    frm_Main& m = start(noLedger.path());
     const struct {
         const char* item;
         const char* window;

@@ -1,15 +1,9 @@
 #include "ShellFixture.h"
 
-#include "foundation/Mdl_Access_mdb.h"
 #include "platform/app/InstanceLock.h"
 #include "platform/db/Connection.h"
-#include "platform/ui/Dispatch.h"
-#include "platform/ui/FlexGrid.h"
 #include "platform/ui/StatusBar.h"
 #include "platform/ui/Twips.h"
-#include "platform/vb/VbError.h"
-
-#include "support/TempLedger.h"
 
 #include <QAction>
 #include <QFile>
@@ -23,17 +17,8 @@ namespace {
 
 class Start : public ShellFixture {
 protected:
-    void SetUp() override
-    {
-        ShellFixture::SetUp();
-        ledger.closeConnection();
-    }
     QByteArray iniBytes() const { return ledger.dir().read(QStringLiteral("DB.ini")); }
-    bool iniExists() const { return QFile::exists(ledger.dir().file(QStringLiteral("DB.ini"))); }
     void writeIni(const QByteArray& text) const { ledger.dir().write(QStringLiteral("DB.ini"), text); }
-
-    TempLedger ledger;
-    TempDir noLedger;
 };
 
 // a place in twips as it comes back from the screen, whole pixels
@@ -44,7 +29,7 @@ TEST_F(Start, WithoutTheLedgerTheWindowStandsEmptyAndSaysWhy)
     const TempDir& folder = noLedger;
     folder.write(QStringLiteral("DB.ini"),
                  "[Main]\r\nSectionNumber=2\r\nSectionName1=\x8c\x6f\x97\x9d\r\nFormSizeWidth=9000\r\nFormSizeHight=6000\r\n");
-    frm_Main& m = ShellFixture::start(folder.path());
+    frm_Main& m = start(folder.path());
     EXPECT_EQ(m.StatusBar1->PanelText(1), QStringLiteral("DBファイルが見つかりません。\r\nData Source=") + folder.path()
                                               + QStringLiteral("/pcdb.mdbを確認ください"));
     EXPECT_TRUE(m.IsLoaded());
@@ -66,7 +51,7 @@ TEST_F(Start, WithoutTheLedgerTheWindowStandsEmptyAndSaysWhy)
 
 TEST_F(Start, SecondStartIsRefusedAndTheFirstGoesOn)
 {
-    frm_Main& first = start(ledger.folder());
+    frm_Main& first = start();
     ASSERT_TRUE(first.IsLoaded());
 
     auto* second = new frm_Main;
@@ -110,7 +95,7 @@ TEST_F(Start, RunThatWasKilledDoesNotBlockTheNextStart)
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     ASSERT_TRUE(QFile::exists(ledger.folder() + QStringLiteral("/fenwold.lock"))) << "the killed run left its lock";
-    frm_Main& m = start(ledger.folder());
+    frm_Main& m = start();
     EXPECT_TRUE(dialogs.calls().empty());
     EXPECT_TRUE(ended.empty());
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen);
@@ -120,7 +105,7 @@ TEST_F(Start, RunThatWasKilledDoesNotBlockTheNextStart)
 TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
 {
     writeIni("[View0]\r\nSelectNumber=1\r\n");
-    frm_Main& m = start(ledger.folder());
+    frm_Main& m = start();
     // a DB.ini without "Main": view 0, all names blank, 14835 x 10530 at 50, 50
     EXPECT_EQ(Mdl_gData::g.SectionNumber, 0);
     for (int i = 0; i <= 7; ++i)
@@ -145,14 +130,14 @@ TEST_F(Start, QuitSavesSizeAndPlaceAndClosesTheLedger)
 
     // the next start takes the saved size and place
     writeIni("[Main]\r\nFormTop=1500\r\nFormLeft=3000\r\nFormSizeWidth=12000\r\nFormSizeHight=9000\r\nSectionNumber=3\r\n");
-    frm_Main& next = start(ledger.folder());
+    frm_Main& next = start();
     EXPECT_EQ(next.geometry(), QRect(ui::TwipsToPixels(3000), ui::TwipsToPixels(1500), ui::TwipsToPixels(12000), ui::TwipsToPixels(9000)));
     EXPECT_EQ(Mdl_gData::g.SectionNumber, 3);
 }
 
 TEST_F(Start, CloseBoxUnloadsEveryWindowAndSavesNothing)
 {
-    frm_Main& m = start(ledger.folder());
+    frm_Main& m = start();
     m.Show();
     m.findChild<QAction*>(QStringLiteral("Mnu_View_INPORT"))->trigger();
     ASSERT_NE(window(QStringLiteral("frm_Inport")), nullptr);
@@ -162,25 +147,9 @@ TEST_F(Start, CloseBoxUnloadsEveryWindowAndSavesNothing)
     EXPECT_EQ(frm_Main::IfLoaded(), nullptr);
     EXPECT_EQ(window(QStringLiteral("frm_Inport")), nullptr) << "every window is unloaded";
     EXPECT_TRUE(ui::Forms().isEmpty());
-    EXPECT_FALSE(iniExists()) << "size and place are saved by the quit command alone";
+    EXPECT_FALSE(QFile::exists(ledger.dir().file(QStringLiteral("DB.ini")))) << "size and place are saved by the quit command alone";
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen) << "and the connection is left to the end of the run";
     EXPECT_TRUE(dialogs.calls().empty());
-}
-
-TEST_F(Start, UncaughtErrorInAnEventEndsTheRunAndTheLedgerKeepsWhatWasWritten)
-{
-    start(ledger.folder());
-    ui::Dispatch([] {
-        Mdl_Access_mdb::ExecuteSql(QStringLiteral("INSERT INTO tbl_Section (Section_Code, Section_Name) VALUES (7, '総務部')"));
-        throw vb::VbError(3021, QStringLiteral("BOF と EOF のいずれかが True になっているか、または現在のレコードが削除されています。"));
-    });
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].prompt,
-              QStringLiteral("実行時エラー '3021':\r\n\r\nBOF と EOF のいずれかが True になっているか、または現在のレコードが削除されています。"));
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("Fenwold"));
-    EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbCritical);
-    EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Section_Name FROM tbl_Section WHERE Section_Code = 7")), QStringLiteral("総務部"));
 }
 
 } // namespace

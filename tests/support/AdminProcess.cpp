@@ -1,24 +1,24 @@
 #include "support/AdminProcess.h"
 
+#include "support/TempDir.h"
+
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QProcess>
 
 #include <csignal>
-#include <functional>
 #include <sys/resource.h>
 
-namespace {
-
-AdminRun run(const QStringList& args, const QString& program, int timeoutMs, const std::function<void()>& inChild = {})
+ProcessRun RunProcess(const QString& program, const QStringList& args, int timeoutMs, const std::function<void()>& inChild)
 {
     QProcess p;
     if (inChild)
         p.setChildProcessModifier(inChild);
     p.start(program, args);
-    AdminRun r;
+    ProcessRun r;
     if (!p.waitForFinished(timeoutMs)) {
-        ADD_FAILURE() << "fenwold-admin did not finish";
+        ADD_FAILURE() << program.toStdString() << " did not finish";
         return r;
     }
     r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
@@ -27,15 +27,20 @@ AdminRun run(const QStringList& args, const QString& program, int timeoutMs, con
     return r;
 }
 
-} // namespace
-
-AdminRun Admin(const QStringList& args, const QString& program) { return run(args, program, 60000); }
-
-AdminRun AdminWithFileLimit(const QStringList& args, qint64 limit)
+ProcessRun AdminWithFileLimit(const QStringList& args, qint64 limit)
 {
-    return run(args, QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), 120000, [limit] {
+    return RunProcess(kAdminProgram, args, 120000, [limit] {
         const rlimit l{rlim_t(limit), rlim_t(limit)};
         setrlimit(RLIMIT_FSIZE, &l);
         std::signal(SIGXFSZ, SIG_IGN);
     });
+}
+
+QString AdminBeside(const TempDir& folder)
+{
+    const QString program = folder.file(QStringLiteral("fenwold-admin"));
+    if (!QFile::copy(kAdminProgram, program))
+        ADD_FAILURE() << "cannot copy fenwold-admin to " << program.toStdString();
+    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    return program;
 }

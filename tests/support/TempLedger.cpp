@@ -2,6 +2,8 @@
 
 #include "ledger/LedgerFile.h"
 
+#include <QFile>
+
 #include <sqlite3.h>
 
 #include <stdexcept>
@@ -36,11 +38,13 @@ void TempLedger::exec(const QString& sql)
         throw std::runtime_error("exec failed: " + text + " in " + sql.toStdString());
 }
 
-QStringList TempLedger::rows(const QString& sql)
+namespace {
+
+QStringList queryRows(sqlite3* db, const QString& sql)
 {
     sqlite3_stmt* st = nullptr;
-    if (sqlite3_prepare_v2(connection().handle(), sql.toUtf8().constData(), -1, &st, nullptr) != SQLITE_OK)
-        throw std::runtime_error(std::string("prepare failed: ") + sqlite3_errmsg(connection().handle()));
+    if (sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &st, nullptr) != SQLITE_OK)
+        throw std::runtime_error(std::string("prepare failed: ") + sqlite3_errmsg(db));
     QStringList out;
     while (sqlite3_step(st) == SQLITE_ROW) {
         QStringList cells;
@@ -56,10 +60,53 @@ QStringList TempLedger::rows(const QString& sql)
     return out;
 }
 
+} // namespace
+
+QStringList TempLedger::rows(const QString& sql) { return queryRows(connection().handle(), sql); }
+
+QStringList LedgerRows(const QString& path, const QString& sql)
+{
+    sqlite3* raw = nullptr;
+    const int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &raw, SQLITE_OPEN_READONLY, nullptr);
+    const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> db(raw, &sqlite3_close);
+    if (rc != SQLITE_OK)
+        throw std::runtime_error("cannot open " + path.toStdString());
+    return queryRows(db.get(), sql);
+}
+
 QString TempLedger::value(const QString& sql)
 {
     const QStringList r = rows(sql);
     if (r.isEmpty())
         return {};
     return r.first().section(QLatin1Char('|'), 0, 0);
+}
+
+void TempLedger::computer(int key, int deleted, int userCode, const QString& pclist, const QString& computerList)
+{
+    exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
+                        "Deleted_Flug) VALUES (%1, 0, %2, 0, 0, %3)")
+             .arg(key)
+             .arg(userCode)
+             .arg(deleted));
+    exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey) VALUES (%1)").arg(key));
+    if (!pclist.isEmpty())
+        exec(QStringLiteral("UPDATE tbl_Pclist SET %1 WHERE MainKey = %2").arg(pclist).arg(key));
+    if (!computerList.isEmpty())
+        exec(QStringLiteral("UPDATE tbl_Computer_List SET %1 WHERE MainKey = %2").arg(computerList).arg(key));
+}
+
+void TempLedger::master(const QString& table, int code, const QString& name, const QString& flag)
+{
+    exec(QStringLiteral("INSERT INTO %1 VALUES (%2, '%3', '', '%4')").arg(table).arg(code).arg(name, flag));
+}
+
+void TempLedger::user(int code, const QString& name, const QString& flag, int section, int division)
+{
+    exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
+                        "VALUES (%1, '%2', '%3', %4, %5)")
+             .arg(code)
+             .arg(name, flag)
+             .arg(section)
+             .arg(division));
 }

@@ -9,6 +9,10 @@
 
 #include <memory>
 
+// Every row of a query on the ledger file at path, opened read-only for the query alone; each row
+// as in TempLedger::rows.
+QStringList LedgerRows(const QString& path, const QString& sql);
+
 // A fresh empty ledger (pcdb.mdb) in its own temporary folder, made the way fenwold-admin makes
 // one, with an open connection and plain-SQL helpers for assertions.
 class TempLedger {
@@ -28,6 +32,12 @@ public:
     QStringList rows(const QString& sql);
     // The first value of the first row as text ("NULL" for Null, "" when there is no row).
     QString value(const QString& sql);
+    // A row of a master table with code, name, comment and flag ("1": retired).
+    void master(const QString& table, int code, const QString& name, const QString& flag = QStringLiteral("0"));
+    void user(int code, const QString& name, const QString& flag = QStringLiteral("0"), int section = 0, int division = 0);
+    // A computer with its two rows on the code-0 masters; pclist and computerList are
+    // "column = value, ..." lists for an UPDATE of each table, empty for none.
+    void computer(int key, int deleted = 0, int userCode = 0, const QString& pclist = {}, const QString& computerList = {});
 
 private:
     TempDir m_dir;

@@ -50,6 +50,14 @@ protected:
         grid.scrollTo(grid.model()->index(row, col));
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, col).center());
     }
+    // The texts of one column below the heading (column 1 of a list holds the keys).
+    static QStringList column(const ui::FlexGrid& grid, int col = 1)
+    {
+        QStringList out;
+        for (int r = grid.FixedRows(); r < grid.Rows(); ++r)
+            out << grid.TextMatrix(r, col);
+        return out;
+    }
     // The rows below the heading, each as its cells from firstCol on joined by "|".
     static QStringList cells(const ui::FlexGrid& grid, int firstCol = 0)
     {

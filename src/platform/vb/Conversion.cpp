@@ -178,13 +178,44 @@ QString doubleToString(double d)
     return s;
 }
 
+bool isDateZero(const QDate& d) { return d == kDateZero; }
+
+// A date as the serial number of days since the date zero, the time as its fraction (OLE dates).
+double dateToSerial(const QDateTime& dt)
+{
+    const double days = double(kDateZero.daysTo(dt.date()));
+    const double frac = dt.time().msecsSinceStartOfDay() / 86400000.0;
+    // OLE dates before zero keep the time as a positive fraction after the minus sign.
+    return days >= 0 ? days + frac : days - frac;
+}
+
+// Raises 6 for a serial outside 100/01/01 .. 9999/12/31, the range of a VB date.
+QDateTime serialToDate(double serial)
+{
+    if (!(serial > kFirstSerial - 1 && serial < kLastSerial + 1))
+        throw VbError::Overflow();
+    const double whole = std::trunc(serial);
+    const double frac = std::fabs(serial - whole);
+    qint64 days = qint64(whole);
+    long long seconds = std::llround(frac * 86400.0);
+    if (seconds == 86400) {
+        // a time that rounds up to midnight belongs to the next day away from zero
+        seconds = 0;
+        days += serial < 0 ? -1 : 1;
+    }
+    const QDate d = kDateZero.addDays(days);
+    if (d.year() < 100 || d.year() > 9999)
+        throw VbError::Overflow();
+    return QDateTime(d, QTime::fromMSecsSinceStartOfDay(int(seconds * 1000)), Qt::UTC);
+}
+
 QString dateToString(const QDateTime& dt)
 {
     const QDate d = dt.date();
     const QTime t = dt.time();
     const bool hasTime = t != QTime(0, 0);
     // The day zero is not shown, so a time alone, and the date zero itself, print as a time.
-    if (IsDateZero(d))
+    if (isDateZero(d))
         return t.toString(QStringLiteral("H:mm:ss"));
     if (!hasTime)
         return d.toString(QStringLiteral("yyyy/MM/dd"));
@@ -200,7 +231,7 @@ double toDouble(const Variant& v)
     case VarType::Long: return v.longValue();
     case VarType::Double: return v.doubleValue();
     case VarType::Boolean: return v.booleanValue() ? -1 : 0;
-    case VarType::Date: return DateToSerial(v.dateValue());
+    case VarType::Date: return dateToSerial(v.dateValue());
     case VarType::String: {
         const QString& s = v.stringValue();
         if (auto d = parseNumberText(s))
@@ -298,35 +329,6 @@ QDateTime MakeDate(int y, int m, int d, int h, int n, int s)
     return QDateTime(QDate(y, m, d), QTime(h, n, s), Qt::UTC);
 }
 
-bool IsDateZero(const QDate& d) { return d == kDateZero; }
-
-double DateToSerial(const QDateTime& dt)
-{
-    const double days = double(kDateZero.daysTo(dt.date()));
-    const double frac = dt.time().msecsSinceStartOfDay() / 86400000.0;
-    // OLE dates before zero keep the time as a positive fraction after the minus sign.
-    return days >= 0 ? days + frac : days - frac;
-}
-
-QDateTime SerialToDate(double serial)
-{
-    if (!(serial > kFirstSerial - 1 && serial < kLastSerial + 1))
-        throw VbError::Overflow();
-    const double whole = std::trunc(serial);
-    const double frac = std::fabs(serial - whole);
-    qint64 days = qint64(whole);
-    long long seconds = std::llround(frac * 86400.0);
-    if (seconds == 86400) {
-        // a time that rounds up to midnight belongs to the next day away from zero
-        seconds = 0;
-        days += serial < 0 ? -1 : 1;
-    }
-    const QDate d = kDateZero.addDays(days);
-    if (d.year() < 100 || d.year() > 9999)
-        throw VbError::Overflow();
-    return QDateTime(d, QTime::fromMSecsSinceStartOfDay(int(seconds * 1000)), Qt::UTC);
-}
-
 std::optional<QDateTime> ParseDate(const QString& text)
 {
     const QString narrow = narrowed(text);
@@ -370,8 +372,6 @@ std::int32_t CLng(const Variant& v)
 
 double CDbl(const Variant& v) { return toDouble(v); }
 
-bool CBool(const Variant& v) { return toDouble(v) != 0; }
-
 QString CStr(const Variant& v)
 {
     switch (v.Type()) {
@@ -396,10 +396,10 @@ QDateTime CDate(const Variant& v)
         if (auto d = ParseDate(v.stringValue()))
             return *d;
         if (auto n = parseNumberText(v.stringValue()))
-            return SerialToDate(*n);
+            return serialToDate(*n);
         throw VbError::TypeMismatch();
     }
-    default: return SerialToDate(toDouble(v));
+    default: return serialToDate(toDouble(v));
     }
 }
 
@@ -466,43 +466,15 @@ double Val(const QString& s)
     return d;
 }
 
-bool IsNumeric(const Variant& v)
+QString Trim(const QString& s)
 {
-    switch (v.Type()) {
-    case VarType::Empty:
-    case VarType::Integer:
-    case VarType::Long:
-    case VarType::Double:
-    case VarType::Boolean: return true;
-    case VarType::String: return parseNumberText(v.stringValue()).has_value();
-    default: return false;
-    }
+    qsizetype from = 0, to = s.size();
+    while (from < to && isTrimmed(s[from]))
+        ++from;
+    while (to > from && isTrimmed(s[to - 1]))
+        --to;
+    return s.mid(from, to - from);
 }
-
-bool IsDate(const Variant& v)
-{
-    if (v.IsDate())
-        return true;
-    return v.IsString() && ParseDate(v.stringValue()).has_value();
-}
-
-QString LTrim(const QString& s)
-{
-    qsizetype i = 0;
-    while (i < s.size() && isTrimmed(s[i]))
-        ++i;
-    return s.mid(i);
-}
-
-QString RTrim(const QString& s)
-{
-    qsizetype n = s.size();
-    while (n > 0 && isTrimmed(s[n - 1]))
-        --n;
-    return s.left(n);
-}
-
-QString Trim(const QString& s) { return LTrim(RTrim(s)); }
 
 Variant Concat(const Variant& a, const Variant& b)
 {
@@ -546,14 +518,6 @@ std::int16_t IntAdd(std::int16_t a, std::int16_t b)
     if (r < std::numeric_limits<std::int16_t>::min() || r > std::numeric_limits<std::int16_t>::max())
         throw VbError::Overflow();
     return std::int16_t(r);
-}
-
-std::int32_t LngAdd(std::int32_t a, std::int32_t b)
-{
-    const long long r = (long long)a + b;
-    if (r < std::numeric_limits<std::int32_t>::min() || r > std::numeric_limits<std::int32_t>::max())
-        throw VbError::Overflow();
-    return std::int32_t(r);
 }
 
 } // namespace vb

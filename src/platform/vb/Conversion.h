@@ -15,22 +15,15 @@ namespace vb {
 std::int16_t CInt(const Variant& v);
 std::int32_t CLng(const Variant& v);
 double CDbl(const Variant& v);
-bool CBool(const Variant& v);
 QString CStr(const Variant& v);
 QDateTime CDate(const Variant& v);
 
 // Val: the leading number of a text, blanks inside skipped, 0 when there is none. Never fails.
 double Val(const QString& s);
 
-// IsNumeric / IsDate as VB answers them for a Variant.
-bool IsNumeric(const Variant& v);
-bool IsDate(const Variant& v);
-
-// Trim, LTrim, RTrim remove blanks: character 32 and, under the Japanese locale, the
-// ideographic space U+3000. Tabs and line ends stay.
+// Trim removes blanks: character 32 and, under the Japanese locale, the ideographic space
+// U+3000. Tabs and line ends stay.
 QString Trim(const QString& s);
-QString LTrim(const QString& s);
-QString RTrim(const QString& s);
 
 // The & operator: Null & Null is Null; otherwise Null and Empty count as "".
 Variant Concat(const Variant& a, const Variant& b);
@@ -40,9 +33,8 @@ Variant Concat(const Variant& a, const Variant& b);
 // number's CStr); a date against a text always compares as text. Texts compare exactly.
 std::optional<bool> Equal(const Variant& a, const Variant& b);
 
-// Integer arithmetic with VB's overflow error.
+// Integer addition with VB's overflow error.
 std::int16_t IntAdd(std::int16_t a, std::int16_t b);
-std::int32_t LngAdd(std::int32_t a, std::int32_t b);
 
 // Rounding to even, as CInt and CLng round.
 double RoundToEven(double d);
@@ -53,11 +45,7 @@ std::optional<double> ParseNumber(const QString& s);
 std::optional<QDateTime> ParseDate(const QString& s);
 
 // Dates are kept as UTC QDateTime values so that no daylight saving shift can touch them;
-// the day 1899/12/30 is VB's date zero, which a time alone carries. SerialToDate raises 6 for
-// a serial outside 100/01/01 .. 9999/12/31, the range of a VB date.
+// the day 1899/12/30 is VB's date zero, which a time alone carries.
 QDateTime MakeDate(int y, int m, int d, int h = 0, int n = 0, int s = 0);
-double DateToSerial(const QDateTime& d);
-QDateTime SerialToDate(double serial);
-bool IsDateZero(const QDate& d);
 
 } // namespace vb

@@ -30,7 +30,6 @@ public:
     static Variant Null() { Variant v; v.m_v = NullTag{}; return v; }
     static Variant Integer(std::int16_t i) { return Variant(i); }
     static Variant Long(std::int32_t l) { return Variant(int(l)); }
-    static Variant Date(const QDateTime& d) { return Variant(d); }
 
     VarType Type() const;
     bool IsEmpty() const { return m_v.index() == 0; }

@@ -21,7 +21,6 @@ VbError VbError::InternalError(const QString& what)
 VbError VbError::BadFileNameOrNumber() { return {Err::BadFileNameOrNumber, QStringLiteral("ファイル名または番号が不正です。")}; }
 VbError VbError::FileNotFound() { return {Err::FileNotFound, QStringLiteral("ファイルが見つかりません。")}; }
 VbError VbError::DeviceUnavailable() { return {Err::DeviceUnavailable, QStringLiteral("デバイスが準備されていません。")}; }
-VbError VbError::PermissionDenied() { return {Err::PermissionDenied, QStringLiteral("書き込みできません。")}; }
 VbError VbError::PathFileAccessError() { return {Err::PathFileAccessError, QStringLiteral("パス名が無効です。")}; }
 VbError VbError::PathNotFound() { return {Err::PathNotFound, QStringLiteral("パスが見つかりません。")}; }
 VbError VbError::InvalidPatternString() { return {Err::InvalidPatternString, QStringLiteral("パターン文字列が不正です。")}; }

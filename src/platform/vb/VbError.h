@@ -29,7 +29,6 @@ public:
     static VbError BadFileNameOrNumber();
     static VbError FileNotFound();
     static VbError DeviceUnavailable();
-    static VbError PermissionDenied();
     static VbError PathFileAccessError();
     static VbError PathNotFound();
     static VbError InvalidPatternString();
@@ -53,7 +52,6 @@ inline constexpr long InternalError = 51;
 inline constexpr long BadFileNameOrNumber = 52;
 inline constexpr long FileNotFound = 53;
 inline constexpr long DeviceUnavailable = 68;
-inline constexpr long PermissionDenied = 70;
 inline constexpr long PathFileAccessError = 75;
 inline constexpr long PathNotFound = 76;
 inline constexpr long InvalidPatternString = 93;

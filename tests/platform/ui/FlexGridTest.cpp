@@ -147,7 +147,9 @@ TEST(FlexGrid, FixedRowAndColumnStayInSightWhileScrolling)
     EXPECT_TRUE(g->CellRect(1, 1).isEmpty() || g->CellRect(1, 1).bottom() < 0) << "row 1 has scrolled away";
 }
 
-TEST(FlexGrid, ClickAndDoubleClickMoveTheCurrentCell)
+// A left click on a cell moves the current cell and is the Click (the list windows' tests click
+// their grids); a right click or a click beside the cells is none.
+TEST(FlexGrid, OnlyALeftClickOnACellIsAClick)
 {
     QWidget window;
     auto* g = new FlexGrid(&window);
@@ -156,29 +158,14 @@ TEST(FlexGrid, ClickAndDoubleClickMoveTheCurrentCell)
     window.show();
     QCoreApplication::processEvents();
     QSignalSpy clicks(g, &FlexGrid::Click);
-    QSignalSpy doubles(g, &FlexGrid::DblClick);
-
-    const QRect cell = g->CellRect(3, 2);
-    ASSERT_FALSE(cell.isEmpty());
-    QTest::mouseClick(g->viewport(), Qt::LeftButton, {}, cell.center());
+    QTest::mouseClick(g->viewport(), Qt::RightButton, {}, g->CellRect(4, 1).center());
+    QTest::mouseClick(g->viewport(), Qt::LeftButton, {}, g->CellRect(9, 4).bottomRight() + QPoint(10, 10));
+    EXPECT_EQ(clicks.count(), 0);
+    EXPECT_EQ(g->Row(), 0) << "the current cell stays";
+    QTest::mouseClick(g->viewport(), Qt::LeftButton, {}, g->CellRect(3, 2).center());
     EXPECT_EQ(clicks.count(), 1);
-    EXPECT_EQ(doubles.count(), 0);
     EXPECT_EQ(g->Row(), 3);
     EXPECT_EQ(g->Col(), 2);
-
-    clicks.clear();
-    QTest::mouseDClick(g->viewport(), Qt::LeftButton, {}, g->CellRect(5, 1).center());
-    EXPECT_EQ(doubles.count(), 1);
-    EXPECT_EQ(g->Row(), 5);
-    EXPECT_EQ(g->Col(), 1);
-
-    // a right click or a click beside the cells is no click
-    clicks.clear();
-    QTest::mouseClick(g->viewport(), Qt::RightButton, {}, g->CellRect(4, 1).center());
-    const QRect last = g->CellRect(9, 4);
-    QTest::mouseClick(g->viewport(), Qt::LeftButton, {}, last.bottomRight() + QPoint(10, 10));
-    EXPECT_EQ(clicks.count(), 0);
-    EXPECT_EQ(g->Row(), 5);
 }
 
 } // namespace

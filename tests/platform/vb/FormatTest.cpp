@@ -1,63 +1,42 @@
 #include "platform/vb/Conversion.h"
 #include "platform/vb/Format.h"
 
-#include "VbTestSupport.h"
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
 using namespace vb;
 
-namespace {
-
-struct FormatCase {
-    const char* name;
-    Variant value;
-    const char* pattern;
-    const char* text;
-};
-
-} // namespace
-
-TEST(Format, ThousandsPatternOfTheMainList)
+TEST(Format, NumericPatternsRoundHalfAwayFromZero)
 {
-    const FormatCase cases[] = {
+    const struct {
+        const char* name;
+        Variant value;
+        const char* pattern;
+        const char* text;
+    } cases[] = {
+        // the main list's capacities
         {"zero shows nothing", 0.0, "###,###", ""},
         {"Long zero shows nothing", Variant::Long(0), "###,###", ""},
-        {"three digits", Variant::Long(999), "###,###", "999"},
         {"first separator", Variant::Long(1000), "###,###", "1,000"},
         {"more digits than places", Variant::Long(1234567), "###,###", "1,234,567"},
         {"below a half shows nothing", 0.4, "###,###", ""},
-        {"a half rounds away from zero", 0.5, "###,###", "1"},
-        {"1.5 rounds up", 1.5, "###,###", "2"},
         {"2.5 rounds up, unlike CInt", 2.5, "###,###", "3"},
         {"-2.5 rounds away from zero", -2.5, "###,###", "-3"},
         {"negative", Variant::Long(-1234), "###,###", "-1,234"},
         {"Null", Variant::Null(), "###,###", ""},
         {"Empty", Variant(), "###,###", ""},
         {"size in kilobytes", 80026.361856, "###,###", "80,026"},
-        {"one gigabyte in bytes", 1073741824.0, "###,###,###", "1,073,741,824"},
-        {"Integer", Variant::Integer(32767), "###,###", "32,767"},
         {"True is -1", true, "###,###", "-1"},
-        {"number text", Variant(QStringLiteral("1234")), "###,###", "1,234"},
         {"number text with blanks", Variant(QStringLiteral(" 1234 ")), "###,###", "1,234"},
         {"number text with separators", Variant(QStringLiteral("1,234,567")), "###,###", "1,234,567"},
         {"full-width number text", Variant(QStringLiteral("１２３４")), "###,###", "1,234"},
         {"text that is no number", Variant(QStringLiteral("不明")), "###,###", "不明"},
-        {"empty text", Variant(QString()), "###,###", ""},
         {"date text stays text", Variant(QStringLiteral("2005/12/04")), "###,###", "2005/12/04"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Format(c.value, QString::fromUtf8(c.pattern)), QString::fromUtf8(c.text)) << c.name;
-}
-
-TEST(Format, DigitPlacesDecimalsAndLiterals)
-{
-    const FormatCase cases[] = {
+        // digit places, decimals and literals
         {"forced zero", 0.0, "#,##0", "0"},
         {"forced leading zeros", Variant::Long(12), "0000", "0012"},
-        {"grouping with a forced digit", 1234.56, "#,##0", "1,235"},
         {"one decimal", 1234.56, "#,##0.0", "1,234.6"},
-        {"forced decimals", 2.5, "0.00", "2.50"},
         {"decimal rounds as written, not as stored", 2.675, "0.00", "2.68"},
         {"optional decimals dropped", 1234.5, "###,###.##", "1,234.5"},
         {"no integer digit forced", 0.5, "#.##", ".5"},
@@ -66,7 +45,6 @@ TEST(Format, DigitPlacesDecimalsAndLiterals)
         {"text before the number", Variant::Long(1200), "計 #,##0", "計 1,200"},
         {"negative with decimals", -0.125, "0.00", "-0.13"},
         {"empty pattern prints as CStr", 1.5, "", "1.5"},
-        {"empty pattern of Null", Variant::Null(), "", ""},
         {"empty pattern of a date", Variant(MakeDate(2005, 12, 4)), "", "2005/12/04"},
     };
     for (const auto& c : cases)
