@@ -9,7 +9,7 @@
 //   bench_intake [--files N] [--runs R] [--keep FOLDER] [--grown N] [--admin PATH]
 //
 // --admin benches another build of fenwold-admin (an earlier commit's, for a before and after).
-#include "InventoryGenerator.h"
+#include "demo/InventoryGenerator.h"
 #include "SqliteFloor.h"
 
 #include "ledger/LedgerFile.h"
@@ -158,7 +158,7 @@ int main(int argc, char** argv)
     const QString folder = keep.isEmpty() ? dir.filePath(QStringLiteral("inventory")) : keep;
     QElapsedTimer t;
     t.start();
-    bench::WriteInventoryFiles(folder, fileCount);
+    demo::WriteInventoryFiles(folder, fileCount);
     QStringList files;
     for (const QString& name : QDir(folder).entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name))
         files << QDir(folder).filePath(name);

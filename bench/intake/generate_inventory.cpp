@@ -1,6 +1,6 @@
 // Writes N generated inventory files into a folder, for trying the read by hand:
 //   bench_intake_generate FOLDER N
-#include "InventoryGenerator.h"
+#include "demo/InventoryGenerator.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -15,7 +15,7 @@ int main(int argc, char** argv)
         std::fputs("usage: bench_intake_generate FOLDER N\n", stderr);
         return 1;
     }
-    const int written = bench::WriteInventoryFiles(args[1], args[2].toInt());
+    const int written = demo::WriteInventoryFiles(args[1], args[2].toInt());
     std::printf("%d files in %s\n", written, args[1].toUtf8().constData());
     return written == args[2].toInt() ? 0 : 1;
 }

@@ -4,9 +4,8 @@
 // was hidden (which must be none).
 //
 //   bench_mainlist [--computers N] [--runs R]
-//   bench_mainlist --make-demo DIR     a ledger of 50 computers and a DB.ini view, for a screenshot
 #include "../BenchTiming.h"
-#include "LedgerGenerator.h"
+#include "demo/LedgerGenerator.h"
 
 #include "assetlist/ListQuery.h"
 #include "assetlist/MainList.h"
@@ -21,7 +20,6 @@
 
 #include <QAbstractItemModel>
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QThread>
@@ -66,18 +64,6 @@ void writeView(const std::vector<int>& columns, const QString& sortKey, const QS
     mdl_ini::IniWrite(s, QStringLiteral("MSFlexGrit_SelectNum"), QString::number(columns.size()));
     for (size_t i = 0; i < columns.size(); ++i)
         mdl_ini::IniWrite(s, QStringLiteral("MSFlexGrit_Select%1").arg(i + 1), QString::number(columns[i]));
-}
-
-int makeDemo(const QString& folder)
-{
-    if (!QDir().mkpath(folder) || !newLedger(folder, 50))
-        return 1;
-    app::SetPath(QDir(folder).absolutePath());
-    mdl_ini::IniWrite(QStringLiteral("Main"), QStringLiteral("SectionName0"), QStringLiteral("設置場所別"));
-    // place, user, section, computer, address, maker, model, OS, disk, memory
-    writeView({1, 4, 2, 8, 10, 13, 14, 17, 26, 28}, QStringLiteral("Location_Name"), QStringLiteral("設置場所"));
-    std::printf("demo ledger of 50 computers and its DB.ini written to %s\n", qPrintable(folder));
-    return 0;
 }
 
 int bench(int computers, int runs)
@@ -183,21 +169,18 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     const QStringList args = QApplication::arguments();
     int computers = 2560, runs = 7;
-    QString demo;
     for (qsizetype i = 1; i < args.size(); ++i) {
-        if (args[i] == QStringLiteral("--make-demo") && i + 1 < args.size())
-            demo = args[++i];
-        else if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
+        if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
             computers = args[++i].toInt();
         else if (args[i] == QStringLiteral("--runs") && i + 1 < args.size())
             runs = args[++i].toInt();
         else {
-            std::fprintf(stderr, "usage: bench_mainlist [--computers N] [--runs R] | --make-demo DIR\n");
+            std::fprintf(stderr, "usage: bench_mainlist [--computers N] [--runs R]\n");
             return 2;
         }
     }
     try {
-        return demo.isEmpty() ? bench(computers, qMax(1, runs)) : makeDemo(demo);
+        return bench(computers, qMax(1, runs));
     } catch (const vb::VbError& e) {
         std::fprintf(stderr, "error %ld: %s\n", e.Number(), qPrintable(e.Description()));
         return 1;

@@ -5,9 +5,8 @@
 // settings). Prints the median of several runs of each; the two lists are compared row by row.
 //
 //   bench_network [--computers N] [--devices D] [--runs R]
-//   bench_network --make-demo DIR     a ledger of 50 computers, 12 devices and their printers
 #include "../BenchTiming.h"
-#include "LedgerGenerator.h"
+#include "demo/LedgerGenerator.h"
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
@@ -19,7 +18,6 @@
 #include "platform/vb/VbError.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
@@ -37,62 +35,6 @@ using BenchTiming::cpuMs;
 using BenchTiming::median;
 using BenchTiming::ms;
 
-// Devices of the register: routers, printers, hubs and servers on the computers' subnets and on
-// 10.x, one in twenty without an address. One transaction, plain statements.
-void addDevices(db::Connection& c, int devices)
-{
-    const char* const kinds[] = {"ルータ", "プリンタ", "HUB", "NAS", "サーバ", "無線AP"};
-    const char* const makers[] = {"YAMAHA", "EPSON", "CANON", "BUFFALO", "Cisco", "NEC"};
-    c.BeginTrans();
-    for (int k = 0; k < devices; ++k) {
-        QString address, key;
-        if (k % 20 != 19) {
-            const int a = k % 3 == 0 ? 10 : 192, b = a == 10 ? 1 + k % 7 : 168, s = 1 + k % 11, h = 200 + k % 50;
-            address = QStringLiteral("%1.%2.%3.%4").arg(a).arg(b).arg(s).arg(h);
-            key = QStringLiteral("%1%2%3%4").arg(a, 2, 16, QLatin1Char('0')).arg(b, 2, 16, QLatin1Char('0'))
-                      .arg(s, 2, 16, QLatin1Char('0')).arg(h, 2, 16, QLatin1Char('0')).toUpper();
-        }
-        const QString kind = QString::fromUtf8(kinds[k % 6]);
-        c.Execute(QStringLiteral("INSERT INTO tbl_NetworkUnit ([Key], Deleted_Flug, Location_Name, User_Name, Computer_Name, "
-                                 "WorkGroup, IPAddress, IPAddress_16num, MacAddress, Manufacturer_Name, Model_Name, "
-                                 "Type_Number, Sereals_Number, ID, PassWord) VALUES (%1, 0, '本社%2F', '情報システム', "
-                                 "'%3-%4', 'WORKGROUP', '%5', '%6', '00:A0:DE:%7:%8:%9', '%10', 'M-%11', 'T-%11', "
-                                 "'S%12', 'admin', 'pw%1')")
-                      .arg(k)
-                      .arg(1 + k % 4)
-                      .arg(kind)
-                      .arg(k, 3, 10, QLatin1Char('0'))
-                      .arg(address, key)
-                      .arg(k / 256 % 256, 2, 16, QLatin1Char('0'))
-                      .arg(k % 256, 2, 16, QLatin1Char('0'))
-                      .arg(k % 100, 2, 10, QLatin1Char('0'))
-                      .arg(QString::fromUtf8(makers[k % 6]))
-                      .arg(100 + k % 30)
-                      .arg(700000 + k));
-    }
-    c.CommitTrans();
-}
-
-// Two printers for most computers: a shared laser printer of the floor, and a local one.
-void addPrinters(db::Connection& c, int computers)
-{
-    c.BeginTrans();
-    for (int k = 1; k <= computers; ++k) {
-        const int floor = 1 + k % 4;
-        c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
-                                 "VALUES (%1, '2005/12/04', 'EPSON LP-9000C %2F', 'IP_192.168.%2.201')")
-                      .arg(k)
-                      .arg(floor));
-        if (k % 3 != 0)
-            c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
-                                     "VALUES (%1, '2005/12/04', '%2', '%3')")
-                          .arg(k)
-                          .arg(k % 2 ? QStringLiteral("Canon LBP-1310") : QStringLiteral("Microsoft Office Document Image Writer"),
-                               k % 2 ? QStringLiteral("LPT1:") : QStringLiteral("Ne00:")));
-    }
-    c.CommitTrans();
-}
-
 QString newLedger(const QString& folder, int computers, int devices, bool printers)
 {
     const QString path = folder + QStringLiteral("/pcdb.mdb");
@@ -104,9 +46,9 @@ QString newLedger(const QString& folder, int computers, int devices, bool printe
     db::Connection c;
     c.Open(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + path);
     LedgerGenerator::Generate(c, computers);
-    addDevices(c, devices);
+    LedgerGenerator::AddDevices(c, devices);
     if (printers)
-        addPrinters(c, computers);
+        LedgerGenerator::AddPrinters(c, computers);
     c.Close();
     return path;
 }
@@ -171,19 +113,6 @@ QStringList dumpList(db::Connection& c)
     }
     sqlite3_finalize(s);
     return rows;
-}
-
-int makeDemo(const QString& folder)
-{
-    if (!QDir().mkpath(folder) || newLedger(folder, 50, 12, true).isEmpty())
-        return 1;
-    app::SetPath(QDir(folder).absolutePath());
-    if (!Mdl_Access_mdb::ConnectDatabase() || !RebuildNetworkList())
-        return 1;
-    Mdl_Access_mdb::DisconnectDatabase();
-    std::printf("demo ledger of 50 computers, 12 devices and their printers, the address list rebuilt, written to %s\n",
-                qPrintable(folder));
-    return 0;
 }
 
 int bench(int computers, int devices, int runs)
@@ -273,23 +202,20 @@ int main(int argc, char** argv)
     QApplication app(argc, argv);
     const QStringList args = QApplication::arguments();
     int computers = 2560, devices = 500, runs = 7;
-    QString demo;
     for (qsizetype i = 1; i < args.size(); ++i) {
-        if (args[i] == QStringLiteral("--make-demo") && i + 1 < args.size())
-            demo = args[++i];
-        else if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
+        if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
             computers = args[++i].toInt();
         else if (args[i] == QStringLiteral("--devices") && i + 1 < args.size())
             devices = args[++i].toInt();
         else if (args[i] == QStringLiteral("--runs") && i + 1 < args.size())
             runs = args[++i].toInt();
         else {
-            std::fprintf(stderr, "usage: bench_network [--computers N] [--devices D] [--runs R] | --make-demo DIR\n");
+            std::fprintf(stderr, "usage: bench_network [--computers N] [--devices D] [--runs R]\n");
             return 2;
         }
     }
     try {
-        return demo.isEmpty() ? bench(computers, devices, qMax(1, runs)) : makeDemo(demo);
+        return bench(computers, devices, qMax(1, runs));
     } catch (const vb::VbError& e) {
         std::fprintf(stderr, "error %ld: %s\n", e.Number(), qPrintable(e.Description()));
         return 1;

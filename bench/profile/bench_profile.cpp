@@ -8,7 +8,7 @@
 //
 //   bench_profile [--computers N] [--runs R]
 #include "../BenchTiming.h"
-#include "../intake/InventoryGenerator.h"
+#include "demo/InventoryGenerator.h"
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
@@ -124,7 +124,7 @@ int run(int computers, int runs)
 
     const QString folder = dir.filePath(QStringLiteral("inventory"));
     QDir().mkpath(folder);
-    bench::WriteInventoryFiles(folder, computers);
+    demo::WriteInventoryFiles(folder, computers);
     QStringList paths;
     for (const QString& name : QDir(folder).entryList({QStringLiteral("*.csv")}, QDir::Files, QDir::Name))
         paths << QDir(folder).filePath(name);

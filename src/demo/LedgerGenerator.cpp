@@ -1,4 +1,4 @@
-#include "LedgerGenerator.h"
+#include "demo/LedgerGenerator.h"
 
 #include "platform/db/Connection.h"
 
@@ -70,7 +70,7 @@ private:
     std::mt19937 m_rng;
 };
 
-void masters(db::Connection& c, const QString& table, const QString& prefix, const QStringList& names)
+void masterRows(db::Connection& c, const QString& table, const QString& prefix, const QStringList& names)
 {
     for (int i = 0; i < names.size(); ++i)
         c.Execute(QStringLiteral("INSERT INTO %1 (%2_Code, %2_Name, %2_Comment, Available_flug) VALUES (%3, %4, '', '0')")
@@ -81,49 +81,87 @@ void masters(db::Connection& c, const QString& table, const QString& prefix, con
 
 } // namespace
 
-void Generate(db::Connection& c, int computers, unsigned seed)
-{
-    Values v(seed);
-    c.BeginTrans();
+const QStringList& Locations() { return kLocations; }
+const QStringList& Sections() { return kSections; }
+const QStringList& Divisions() { return kDivisions; }
+const QStringList& Makers() { return kMakers; }
 
-    masters(c, QStringLiteral("tbl_Location"), QStringLiteral("Location"), kLocations);
-    masters(c, QStringLiteral("tbl_Section"), QStringLiteral("Section"), kSections);
-    masters(c, QStringLiteral("tbl_Division"), QStringLiteral("Division"), kDivisions);
-    masters(c, QStringLiteral("tbl_Manufacturer"), QStringLiteral("Manufacturer"), kMakers);
-    QStringList models;
-    std::vector<int> modelMaker;
+const QStringList& Models()
+{
+    static const QStringList models = [] {
+        QStringList all;
+        for (const QStringList& ofMaker : kModels)
+            all << ofMaker;
+        return all;
+    }();
+    return models;
+}
+
+int MakerOfModel(int modelCode)
+{
+    int code = 0;
     for (int m = 0; m < kMakers.size(); ++m) {
-        for (const QString& name : kModels[m]) {
-            models << name;
-            modelMaker.push_back(m + 1);
-        }
+        code += int(kModels[m].size());
+        if (modelCode <= code)
+            return m + 1;
     }
-    masters(c, QStringLiteral("tbl_Model"), QStringLiteral("Model"), models);
+    return 0;
+}
+
+void Masters(db::Connection& c)
+{
+    db::Transaction t(c);
+    masterRows(c, QStringLiteral("tbl_Location"), QStringLiteral("Location"), kLocations);
+    masterRows(c, QStringLiteral("tbl_Section"), QStringLiteral("Section"), kSections);
+    masterRows(c, QStringLiteral("tbl_Division"), QStringLiteral("Division"), kDivisions);
+    masterRows(c, QStringLiteral("tbl_Manufacturer"), QStringLiteral("Manufacturer"), kMakers);
+    masterRows(c, QStringLiteral("tbl_Model"), QStringLiteral("Model"), Models());
     // a model and a location that were retired from the masters while computers still use them
     c.Execute(QStringLiteral("UPDATE tbl_Model SET Available_flug = '1' WHERE Model_Code = 3"));
     c.Execute(QStringLiteral("UPDATE tbl_Location SET Available_flug = '1' WHERE Location_Code = 4"));
+    t.Commit();
+}
 
-    // about one user per computer; one in thirty has left (soft-deleted)
-    const int users = qMax(1, computers * 9 / 10);
-    for (int u = 1; u <= users; ++u) {
+std::vector<User> Users(db::Connection& c, int count, unsigned seed)
+{
+    Values v(seed);
+    std::vector<User> users;
+    db::Transaction t(c);
+    for (int u = 1; u <= count; ++u) {
         const int f = v.upTo(int(kFamily.size())), g = v.upTo(int(kGiven.size()));
+        const QString account = QStringLiteral("user%1").arg(u, 4, 10, QLatin1Char('0'));
+        const QString password = QStringLiteral("pw%1").arg(v.between(1000, 9999));
+        const int section = v.between(1, int(kSections.size()));
+        const int division = v.between(1, int(kDivisions.size()));
+        const QString name = kFamily[f] + QStringLiteral("　") + kGiven[g];
         c.Execute(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, User_Comment, Available_flug, kana, "
                                  "Employee_SerialNumber, Acount_Name, logon_Password, Section_Code, Division_Code) "
                                  "VALUES (%1, %2, '', %3, %4, %5, %6, %7, %8, %9)")
                       .arg(u)
-                      .arg(quoted(kFamily[f] + QStringLiteral("　") + kGiven[g]),
-                           quoted(u % 30 == 0 ? QStringLiteral("1") : QStringLiteral("0")),
+                      .arg(quoted(name), quoted(u % 30 == 0 ? QStringLiteral("1") : QStringLiteral("0")),
                            quoted(kFamilyKana[f] + QStringLiteral(" ") + kGivenKana[g]),
-                           quoted(QStringLiteral("%1").arg(10000 + u, 6, 10, QLatin1Char('0'))),
-                           quoted(QStringLiteral("user%1").arg(u, 4, 10, QLatin1Char('0'))),
-                           quoted(QStringLiteral("pw%1").arg(v.between(1000, 9999))))
-                      .arg(v.between(1, int(kSections.size())))
-                      .arg(v.between(1, int(kDivisions.size()))));
+                           quoted(QStringLiteral("%1").arg(10000 + u, 6, 10, QLatin1Char('0'))), quoted(account), quoted(password))
+                      .arg(section)
+                      .arg(division));
+        users.push_back({u, name, account, section});
     }
+    t.Commit();
+    return users;
+}
+
+void Generate(db::Connection& c, int computers, unsigned seed)
+{
+    Masters(c);
+    // about one user per computer
+    const int users = qMax(1, computers * 9 / 10);
+    Users(c, users, seed);
+    Values v(seed + 1);
+    const QStringList& models = Models();
+    db::Transaction t(c);
 
     for (int k = 1; k <= computers; ++k) {
         const int model = v.between(1, int(models.size()));
-        const int maker = modelMaker[size_t(model - 1)];
+        const int maker = MakerOfModel(model);
         const int cpu = v.upTo(int(kCpus.size()));
         const int subnet = 1 + (k - 1) / 250, host = 1 + (k - 1) % 250;
         const QString ip = QStringLiteral("192.168.%1.%2").arg(subnet).arg(host);
@@ -240,7 +278,60 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                             .join(QStringLiteral(", "))
                       + QStringLiteral(")"));
     }
-    c.CommitTrans();
+    t.Commit();
+}
+
+void AddDevices(db::Connection& c, int devices)
+{
+    const char* const kinds[] = {"ルータ", "プリンタ", "HUB", "NAS", "サーバ", "無線AP"};
+    const char* const makers[] = {"YAMAHA", "EPSON", "CANON", "BUFFALO", "Cisco", "NEC"};
+    db::Transaction t(c);
+    for (int k = 0; k < devices; ++k) {
+        QString address, key;
+        if (k % 20 != 19) {
+            const int a = k % 3 == 0 ? 10 : 192, b = a == 10 ? 1 + k % 7 : 168, s = 1 + k % 11, h = 200 + k % 50;
+            address = QStringLiteral("%1.%2.%3.%4").arg(a).arg(b).arg(s).arg(h);
+            key = QStringLiteral("%1%2%3%4").arg(a, 2, 16, QLatin1Char('0')).arg(b, 2, 16, QLatin1Char('0'))
+                      .arg(s, 2, 16, QLatin1Char('0')).arg(h, 2, 16, QLatin1Char('0')).toUpper();
+        }
+        const QString kind = QString::fromUtf8(kinds[k % 6]);
+        c.Execute(QStringLiteral("INSERT INTO tbl_NetworkUnit ([Key], Deleted_Flug, Location_Name, User_Name, Computer_Name, "
+                                 "WorkGroup, IPAddress, IPAddress_16num, MacAddress, Manufacturer_Name, Model_Name, "
+                                 "Type_Number, Sereals_Number, ID, PassWord) VALUES (%1, 0, '本社%2F', '情報システム', "
+                                 "'%3-%4', 'WORKGROUP', '%5', '%6', '00:A0:DE:%7:%8:%9', '%10', 'M-%11', 'T-%11', "
+                                 "'S%12', 'admin', 'pw%1')")
+                      .arg(k)
+                      .arg(1 + k % 4)
+                      .arg(kind)
+                      .arg(k, 3, 10, QLatin1Char('0'))
+                      .arg(address, key)
+                      .arg(k / 256 % 256, 2, 16, QLatin1Char('0'))
+                      .arg(k % 256, 2, 16, QLatin1Char('0'))
+                      .arg(k % 100, 2, 10, QLatin1Char('0'))
+                      .arg(QString::fromUtf8(makers[k % 6]))
+                      .arg(100 + k % 30)
+                      .arg(700000 + k));
+    }
+    t.Commit();
+}
+
+void AddPrinters(db::Connection& c, int computers)
+{
+    db::Transaction t(c);
+    for (int k = 1; k <= computers; ++k) {
+        const int floor = 1 + k % 4;
+        c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
+                                 "VALUES (%1, '2005/12/04', 'EPSON LP-9000C %2F', 'IP_192.168.%2.201')")
+                      .arg(k)
+                      .arg(floor));
+        if (k % 3 != 0)
+            c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
+                                     "VALUES (%1, '2005/12/04', '%2', '%3')")
+                          .arg(k)
+                          .arg(k % 2 ? QStringLiteral("Canon LBP-1310") : QStringLiteral("Microsoft Office Document Image Writer"),
+                               k % 2 ? QStringLiteral("LPT1:") : QStringLiteral("Ne00:")));
+    }
+    t.Commit();
 }
 
 } // namespace LedgerGenerator
