@@ -1,7 +1,8 @@
 // fenwold-admin: the companion program for scripts and administrators. It works on a ledger
-// without a window: makes an empty ledger, reads inventory files, writes the lists of the windows
+// without a window: makes an empty ledger or a demo one, reads inventory files, writes the lists of the windows
 // to files, backs the ledger up and checks it.
 #include "assetlist/ExportListCommand.h"
+#include "demo/DemoLedger.h"
 #include "intake/ReadCommand.h"
 #include "mail/ExportMailCommand.h"
 #include "ledger/LedgerCommands.h"
@@ -42,6 +43,7 @@ void printUsage(std::FILE* to)
                  "\n"
                  "commands:\n"
                  "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
+                 "  demo-ledger PATH     write a demo ledger of 60 computers to PATH (never overwrites), and a DB.ini of three views beside it if none is there\n"
                  "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
                  "  export LIST [--ledger PATH] [--ini PATH] [options] OUT   write a window's list to OUT as the window exports it\n"
                  "      LIST: %s\n"
@@ -77,6 +79,7 @@ int main(int argc, char** argv)
     const QString command = args.takeFirst();
     const std::pair<const char*, std::function<int(const QStringList&)>> commands[] = {
         {"new-ledger", ledger::NewLedgerCommand},
+        {"demo-ledger", demo::DemoLedgerCommand},
         {"read", ReadCommand},
         {"export", [](const QStringList& a) { return AdminExport::ExportCommand(exportLists(), a); }},
         {"export-list", [](const QStringList& a) { return AdminExport::Run("export-list", MainListExport(), a); }},
