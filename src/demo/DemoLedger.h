@@ -13,7 +13,7 @@ namespace demo {
 struct DemoLedgerSummary {
     int computers = 0;
     int retired = 0;
-    int english = 0;  // read with the English reader
+    int english = 0; // read with the English reader
     int users = 0;
     int purchases = 0;
     int assignments = 0;

@@ -12,18 +12,18 @@ namespace demo {
 // What sets one PC apart from another. The defaults are the benchmark's office PC: an NEC
 // desktop with Windows XP on 10.x addresses, in the Japanese tool's words.
 struct InventoryMachine {
-    bool english = false;  // the English tool's item names, and no creation record
-    QString computerName;  // empty: PC-nnnnn
-    QString userName;      // empty: usernnn
-    QString section;       // the description's department; empty: one picked by n
-    QString address;       // the first adapter's IPv4 address; empty: 10.s.x.h from n
-    QString gateway;       // empty: 10.s.0.1
+    bool english = false; // the English tool's item names, and no creation record
+    QString computerName; // empty: PC-nnnnn
+    QString userName;     // empty: usernnn
+    QString section;      // the description's department; empty: one picked by n
+    QString address;      // the first adapter's IPv4 address; empty: 10.s.x.h from n
+    QString gateway;      // empty: 10.s.0.1
     QString maker = QStringLiteral("NEC");
     QString model = QStringLiteral("PC-MY26XEZ7");
     QString operatingSystem = QStringLiteral("Microsoft Windows XP Professional");
     QString cpu = QStringLiteral("Intel(R) Pentium(R) 4 CPU 2.80GHz");
-    QString resolution;    // empty: one of two by n
-    QString year = QStringLiteral("2006");  // the year of the read
+    QString resolution;                    // empty: one of two by n
+    QString year = QStringLiteral("2006"); // the year of the read
 };
 
 QByteArray InventoryFile(int n, const InventoryMachine& machine = {});

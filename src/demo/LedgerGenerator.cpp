@@ -51,13 +51,6 @@ const QStringList kCpus = {QStringLiteral("Intel(R) Pentium(R) 4 CPU 2.80GHz"),
 const int kClocks[] = {2800, 3000, 1600, 2400, 1833};
 const QStringList kOses = {QStringLiteral("Microsoft Windows XP Professional"), QStringLiteral("Microsoft Windows 2000 Professional")};
 
-QString quoted(const QString& s)
-{
-    QString q = s;
-    q.replace(QLatin1Char('\''), QLatin1String("''"));
-    return QLatin1Char('\'') + q + QLatin1Char('\'');
-}
-
 class Values {
 public:
     explicit Values(unsigned seed) : m_rng(seed) {}
@@ -76,10 +69,17 @@ void masterRows(db::Connection& c, const QString& table, const QString& prefix, 
         c.Execute(QStringLiteral("INSERT INTO %1 (%2_Code, %2_Name, %2_Comment, Available_flug) VALUES (%3, %4, '', '0')")
                       .arg(table, prefix)
                       .arg(i + 1)
-                      .arg(quoted(names[i])));
+                      .arg(Quoted(names[i])));
 }
 
 } // namespace
+
+QString Quoted(const QString& text)
+{
+    QString q = text;
+    q.replace(QLatin1Char('\''), QLatin1String("''"));
+    return QLatin1Char('\'') + q + QLatin1Char('\'');
+}
 
 const QStringList& Locations() { return kLocations; }
 const QStringList& Sections() { return kSections; }
@@ -138,9 +138,9 @@ std::vector<User> Users(db::Connection& c, int count, unsigned seed)
                                  "Employee_SerialNumber, Acount_Name, logon_Password, Section_Code, Division_Code) "
                                  "VALUES (%1, %2, '', %3, %4, %5, %6, %7, %8, %9)")
                       .arg(u)
-                      .arg(quoted(name), quoted(u % 30 == 0 ? QStringLiteral("1") : QStringLiteral("0")),
-                           quoted(kFamilyKana[f] + QStringLiteral(" ") + kGivenKana[g]),
-                           quoted(QStringLiteral("%1").arg(10000 + u, 6, 10, QLatin1Char('0'))), quoted(account), quoted(password))
+                      .arg(Quoted(name), Quoted(u % 30 == 0 ? QStringLiteral("1") : QStringLiteral("0")),
+                           Quoted(kFamilyKana[f] + QStringLiteral(" ") + kGivenKana[g]),
+                           Quoted(QStringLiteral("%1").arg(10000 + u, 6, 10, QLatin1Char('0'))), Quoted(account), Quoted(password))
                       .arg(section)
                       .arg(division));
         users.push_back({u, name, account, section});
@@ -189,21 +189,21 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                       .arg(v.between(1, users))
                       .arg(maker)
                       .arg(model)
-                      .arg(quoted(v.chance(70) ? QStringLiteral("リース") : QStringLiteral("購入")),
-                           quoted(QStringLiteral("%1-%2").arg(8000 + model).arg(v.between(100, 999))),
-                           quoted(QStringLiteral("SN%1").arg(v.between(10000000, 99999999))),
-                           quoted(QStringLiteral("2005/%1/%2").arg(v.between(1, 12)).arg(v.between(1, 28))),
-                           quoted(v.pick({QStringLiteral("大塚商会"), QStringLiteral("ソフマップ"), QStringLiteral("内田洋行")})),
-                           quoted(v.pick({QStringLiteral("オリックス"), QStringLiteral("東京リース"), QStringLiteral("三井住友銀リース")})),
-                           quoted(QStringLiteral("L-%1-%2").arg(leaseYear).arg(k, 5, 10, QLatin1Char('0'))),
-                           quoted(QStringLiteral("%1/%2/1").arg(leaseYear).arg(leaseMonth)))
-                      .arg(quoted(QStringLiteral("%1/%2/1").arg(leaseYear + 4).arg(leaseMonth)))
+                      .arg(Quoted(v.chance(70) ? QStringLiteral("リース") : QStringLiteral("購入")),
+                           Quoted(QStringLiteral("%1-%2").arg(8000 + model).arg(v.between(100, 999))),
+                           Quoted(QStringLiteral("SN%1").arg(v.between(10000000, 99999999))),
+                           Quoted(QStringLiteral("2005/%1/%2").arg(v.between(1, 12)).arg(v.between(1, 28))),
+                           Quoted(v.pick({QStringLiteral("大塚商会"), QStringLiteral("ソフマップ"), QStringLiteral("内田洋行")})),
+                           Quoted(v.pick({QStringLiteral("オリックス"), QStringLiteral("東京リース"), QStringLiteral("三井住友銀リース")})),
+                           Quoted(QStringLiteral("L-%1-%2").arg(leaseYear).arg(k, 5, 10, QLatin1Char('0'))),
+                           Quoted(QStringLiteral("%1/%2/1").arg(leaseYear).arg(leaseMonth)))
+                      .arg(Quoted(QStringLiteral("%1/%2/1").arg(leaseYear + 4).arg(leaseMonth)))
                       .arg(v.between(40, 120) * 100)
                       .arg(v.chance(20) ? v.between(1, 50) * 1000 : 0)
-                      .arg(quoted(v.pick({QStringLiteral("NECフィールディング"), QStringLiteral("富士通サポート"),
+                      .arg(Quoted(v.pick({QStringLiteral("NECフィールディング"), QStringLiteral("富士通サポート"),
                                           QStringLiteral("日本IBM")})),
-                           quoted(QStringLiteral("M-%1").arg(v.between(1000, 9999))),
-                           v.chance(15) ? quoted(QStringLiteral("予備機")) : QStringLiteral("Null")));
+                           Quoted(QStringLiteral("M-%1").arg(v.between(1000, 9999))),
+                           v.chance(15) ? Quoted(QStringLiteral("予備機")) : QStringLiteral("Null")));
 
         c.Execute(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, [Update], Computer_Name, Workgroup, IPAddress, "
                                  "IPAddress_16num, MacAddress, Operating_System, Version_Number, ServicePack, ProductID, "
@@ -216,26 +216,26 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                                  "Internet_Connection, Modem_Connection, LAN_Connection, PROXY_Connection, OfflineMode, "
                                  "RASInstalled) VALUES (")
                       + QString::number(k) + QStringLiteral(", ")
-                      + QStringList{quoted(QStringLiteral("2005/%1/%2 %3:%4:00").arg(v.between(1, 12)).arg(v.between(1, 28)).arg(v.between(9, 18)).arg(v.between(10, 59))),
-                                    quoted(name),
-                                    quoted(v.pick({QStringLiteral("WORKGROUP"), QStringLiteral("EIGYO"), QStringLiteral("KAIHATSU")})),
-                                    quoted(ip),
-                                    quoted(ipHex),
-                                    quoted(QStringLiteral("00-0D-60-%1-%2-%3")
+                      + QStringList{Quoted(QStringLiteral("2005/%1/%2 %3:%4:00").arg(v.between(1, 12)).arg(v.between(1, 28)).arg(v.between(9, 18)).arg(v.between(10, 59))),
+                                    Quoted(name),
+                                    Quoted(v.pick({QStringLiteral("WORKGROUP"), QStringLiteral("EIGYO"), QStringLiteral("KAIHATSU")})),
+                                    Quoted(ip),
+                                    Quoted(ipHex),
+                                    Quoted(QStringLiteral("00-0D-60-%1-%2-%3")
                                                .arg(v.upTo(256), 2, 16, QLatin1Char('0'))
                                                .arg(v.upTo(256), 2, 16, QLatin1Char('0'))
                                                .arg(v.upTo(256), 2, 16, QLatin1Char('0'))
                                                .toUpper()),
-                                    quoted(v.pick(kOses)),
-                                    quoted(QStringLiteral("5.1.2600")),
-                                    quoted(v.pick({QStringLiteral("Service Pack 1"), QStringLiteral("Service Pack 2")})),
-                                    quoted(QStringLiteral("55274-OEM-%1-%2").arg(v.between(1000000, 9999999)).arg(v.between(10000, 99999))),
-                                    quoted(QStringLiteral("XXXXX-%1-%2-XXXXX-XXXXX").arg(v.between(10000, 99999)).arg(v.between(10000, 99999))),
-                                    quoted(kMakers[maker - 1]),
-                                    quoted(models[model - 1]),
-                                    quoted(QStringLiteral("6.0.2900.2180")),
-                                    quoted(QStringLiteral("SP2")),
-                                    quoted(notebook ? QStringLiteral("1024x768") : v.pick({QStringLiteral("1280x1024"), QStringLiteral("1024x768")})),
+                                    Quoted(v.pick(kOses)),
+                                    Quoted(QStringLiteral("5.1.2600")),
+                                    Quoted(v.pick({QStringLiteral("Service Pack 1"), QStringLiteral("Service Pack 2")})),
+                                    Quoted(QStringLiteral("55274-OEM-%1-%2").arg(v.between(1000000, 9999999)).arg(v.between(10000, 99999))),
+                                    Quoted(QStringLiteral("XXXXX-%1-%2-XXXXX-XXXXX").arg(v.between(10000, 99999)).arg(v.between(10000, 99999))),
+                                    Quoted(kMakers[maker - 1]),
+                                    Quoted(models[model - 1]),
+                                    Quoted(QStringLiteral("6.0.2900.2180")),
+                                    Quoted(QStringLiteral("SP2")),
+                                    Quoted(notebook ? QStringLiteral("1024x768") : v.pick({QStringLiteral("1280x1024"), QStringLiteral("1024x768")})),
                                     QString::number(memKb),
                                     QString::number(memUsed),
                                     QString::number(memKb - memUsed),
@@ -245,30 +245,30 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                                     QString::number(diskKb),
                                     QString::number(diskUsed),
                                     QString::number(diskKb - diskUsed),
-                                    quoted(QStringLiteral("C:")),
+                                    Quoted(QStringLiteral("C:")),
                                     QString::number(notebook ? 0 : int(v.chance(40))),
                                     QString::number(int(v.chance(50))),
                                     QString::number(int(v.chance(40))),
                                     QString::number(int(v.chance(50))),
                                     QString::number(int(v.chance(5))),
                                     QString::number(int(v.chance(30))),
-                                    quoted(kCpus[cpu]),
+                                    Quoted(kCpus[cpu]),
                                     QString::number(kClocks[cpu]),
-                                    quoted(QStringLiteral("user%1").arg(k, 4, 10, QLatin1Char('0'))),
-                                    quoted(QString()),
-                                    quoted(name.toLower()),
-                                    quoted(QStringLiteral("corp.example.co.jp")),
-                                    quoted(notebook ? QStringLiteral("ノートPC") : QStringLiteral("事務用PC")),
-                                    quoted(QStringLiteral("社内LAN")),
-                                    quoted(QStringLiteral("Intel(R) PRO/100 VE Network Connection")),
-                                    quoted(QStringLiteral("255.255.255.0")),
-                                    quoted(QStringLiteral("192.168.%1.254").arg(subnet)),
-                                    quoted(QStringLiteral("192.168.0.10")),
-                                    quoted(QStringLiteral("192.168.0.11")),
-                                    quoted(QStringLiteral("192.168.0.12")),
-                                    quoted(QStringLiteral("192.168.0.1")),
-                                    quoted(QStringLiteral("192.168.0.2")),
-                                    quoted(QStringLiteral("HUB-%1").arg(subnet, 2, 10, QLatin1Char('0'))),
+                                    Quoted(QStringLiteral("user%1").arg(k, 4, 10, QLatin1Char('0'))),
+                                    Quoted(QString()),
+                                    Quoted(name.toLower()),
+                                    Quoted(QStringLiteral("corp.example.co.jp")),
+                                    Quoted(notebook ? QStringLiteral("ノートPC") : QStringLiteral("事務用PC")),
+                                    Quoted(QStringLiteral("社内LAN")),
+                                    Quoted(QStringLiteral("Intel(R) PRO/100 VE Network Connection")),
+                                    Quoted(QStringLiteral("255.255.255.0")),
+                                    Quoted(QStringLiteral("192.168.%1.254").arg(subnet)),
+                                    Quoted(QStringLiteral("192.168.0.10")),
+                                    Quoted(QStringLiteral("192.168.0.11")),
+                                    Quoted(QStringLiteral("192.168.0.12")),
+                                    Quoted(QStringLiteral("192.168.0.1")),
+                                    Quoted(QStringLiteral("192.168.0.2")),
+                                    Quoted(QStringLiteral("HUB-%1").arg(subnet, 2, 10, QLatin1Char('0'))),
                                     QStringLiteral("1"),
                                     QString::number(int(v.chance(5))),
                                     QStringLiteral("1"),

@@ -17,6 +17,9 @@ class Connection;
 // written straight to both tables, which makes a ledger of thousands in a moment.
 namespace LedgerGenerator {
 
+// A text as a Jet literal, its apostrophes doubled.
+QString Quoted(const QString& text);
+
 // The master rows, codes from 1 in the order of these lists. Location 4 and model 3 are
 // retired ("1" in Available_flug) while computers still use them.
 const QStringList& Locations();
@@ -31,7 +34,7 @@ struct User {
     int code;
     QString name;
     QString account;
-    int section;  // code
+    int section; // code
 };
 // Users 1 to count, each in a section and a division; every thirtieth has left (retired).
 std::vector<User> Users(db::Connection& connection, int count, unsigned seed);
