@@ -129,6 +129,16 @@ InventoryMachine machineOf(const Computer& c, const std::vector<LedgerGenerator:
     m.operatingSystem = ascii(kSystems[size_t(c.system)]);
     m.cpu = ascii(kCpus[size_t(c.cpu)]);
     m.year = c.key % 3 == 0 ? QStringLiteral("2005") : QStringLiteral("2006");
+    // the printer of the site by its share name, the head office's colour printer, a local one
+    // or the PDF printer on some
+    const QString site = LedgerGenerator::Locations()[c.site.location - 1];
+    m.printers.emplace_back(site + QStringLiteral("LP"), QStringLiteral("IP_%1.201").arg(ascii(c.site.subnet)));
+    if (QByteArray(c.site.subnet) == "192.168.1")
+        m.printers.emplace_back(QStringLiteral("本社カラー"), QStringLiteral("IP_192.168.1.210"));
+    if (c.key % 4 == 1)
+        m.printers.emplace_back(QStringLiteral("Canon LBP-3300"), QStringLiteral("LPT1:"));
+    if (c.key % 5 == 2)
+        m.printers.emplace_back(QStringLiteral("PDFCreator"), QStringLiteral("PDFCreator:"));
     return m;
 }
 

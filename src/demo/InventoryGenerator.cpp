@@ -34,7 +34,8 @@ struct Word {
     const char16_t* en;
 };
 
-const std::array<const char16_t*, 12> kApplications = {u"Microsoft Office Professional Edition 2003",
+// Each file lists 30 of these in turn, starting from the file's number.
+const std::array<const char16_t*, 36> kApplications = {u"Microsoft Office Professional Edition 2003",
                                                        u"ウイルスバスター2006",
                                                        u"Adobe Reader 7.0.5 - 日本語",
                                                        u"Tom's Mail Checker",
@@ -45,7 +46,31 @@ const std::array<const char16_t*, 12> kApplications = {u"Microsoft Office Profes
                                                        u"JUST Suite 2005",
                                                        u"Sleipnir",
                                                        u"Becky! Internet Mail",
-                                                       u"筆まめVer.16"};
+                                                       u"筆まめVer.16",
+                                                       u"Adobe Acrobat 7.0 Standard",
+                                                       u"ATOK2005",
+                                                       u"花子2005",
+                                                       u"Microsoft .NET Framework 1.1",
+                                                       u"J2SE Runtime Environment 5.0 Update 6",
+                                                       u"Macromedia Flash Player 8",
+                                                       u"QuickTime",
+                                                       u"Mozilla Firefox (1.5)",
+                                                       u"WinZip",
+                                                       u"Windows Installer 3.1",
+                                                       u"MSXML 4.0 SP2 Parser and SDK",
+                                                       u"DirectX 9.0c",
+                                                       u"弥生会計 06",
+                                                       u"筆王2006",
+                                                       u"TeraTerm Pro",
+                                                       u"WinSCP3",
+                                                       u"VNC Viewer 4.1",
+                                                       u"Microsoft Office Visio Standard 2003",
+                                                       u"Microsoft Office Project Standard 2003",
+                                                       u"RealPlayer",
+                                                       u"+Lhaca",
+                                                       u"Google ツールバー for Internet Explorer",
+                                                       u"PDFCreator",
+                                                       u"Microsoft Office XP Standard"};
 const std::array<Word, 8> kDeviceCategories = {{
     {u"ディスプレイ アダプタ", u"Display adapters"},
     {u"ネットワーク アダプタ", u"Network adapters"},
@@ -55,6 +80,53 @@ const std::array<Word, 8> kDeviceCategories = {{
     {u"システム デバイス", u"System devices"},
     {u"IDE ATA/ATAPI コントローラ", u"IDE ATA/ATAPI controllers"},
     {u"ポート (COM と LPT)", u"Ports (COM & LPT)"},
+}};
+struct Device {
+    const char16_t* name;
+    const char16_t* provider;
+};
+// five of each category, in the order of the categories
+const std::array<std::array<Device, 5>, 8> kDevices = {{
+    {{{u"Intel(R) 82865G Graphics Controller", u"Intel Corporation"},
+      {u"RADEON 9200", u"ATI Technologies Inc."},
+      {u"NVIDIA GeForce FX 5200", u"NVIDIA"},
+      {u"Intel(R) 82915G/GV/910GL Express Chipset Family", u"Intel Corporation"},
+      {u"S3 Graphics ProSavageDDR", u"S3 Graphics Co. Ltd."}}},
+    {{{u"Intel(R) PRO/1000 MT Network Connection", u"Intel"},
+      {u"1394 ネット アダプタ", u"Microsoft"},
+      {u"Broadcom NetXtreme Gigabit Ethernet", u"Broadcom"},
+      {u"Realtek RTL8139 Family PCI Fast Ethernet NIC", u"Realtek"},
+      {u"Intel(R) PRO/Wireless 2200BG Network Connection", u"Intel"}}},
+    {{{u"ST380011A", u"(標準ディスク ドライブ)"},
+      {u"WDC WD800JD-75MSA3", u"(標準ディスク ドライブ)"},
+      {u"Maxtor 6Y080L0", u"(標準ディスク ドライブ)"},
+      {u"HTS541040G9AT00", u"(標準ディスク ドライブ)"},
+      {u"USB Flash Memory USB Device", u"(標準ディスク ドライブ)"}}},
+    {{{u"日本語 PS/2 キーボード (106/109 キー)", u"(標準キーボード)"},
+      {u"HID キーボード デバイス", u"(標準キーボード)"},
+      {u"Microsoft USB Natural Keyboard", u"Microsoft"},
+      {u"標準 101/102 キーボード", u"(標準キーボード)"},
+      {u"USB ヒューマン インターフェイス デバイス", u"(標準システム デバイス)"}}},
+    {{{u"PS/2 互換マウス", u"Microsoft"},
+      {u"HID 準拠マウス", u"Microsoft"},
+      {u"Logitech USB Optical Mouse", u"Logitech"},
+      {u"Synaptics PS/2 Port TouchPad", u"Synaptics"},
+      {u"Microsoft USB IntelliMouse Optical", u"Microsoft"}}},
+    {{{u"ACPI 電源ボタン", u"(標準システム デバイス)"},
+      {u"PCI バス", u"(標準システム デバイス)"},
+      {u"システム タイマ", u"(標準システム デバイス)"},
+      {u"Intel(R) 82801EB LPC Interface Controller - 24D0", u"Intel"},
+      {u"ダイレクト メモリ アクセス コントローラ", u"(標準システム デバイス)"}}},
+    {{{u"プライマリ IDE チャネル", u"(標準 IDE ATA/ATAPI コントローラ)"},
+      {u"セカンダリ IDE チャネル", u"(標準 IDE ATA/ATAPI コントローラ)"},
+      {u"Intel(R) 82801EB Ultra ATA Storage Controllers", u"Intel"},
+      {u"Intel(R) 82801EB Serial ATA Storage Controller", u"Intel"},
+      {u"標準デュアル チャネル PCI IDE コントローラ", u"(標準 IDE ATA/ATAPI コントローラ)"}}},
+    {{{u"通信ポート (COM1)", u"(標準ポート)"},
+      {u"ECP プリンタ ポート (LPT1)", u"(標準ポート)"},
+      {u"通信ポート (COM2)", u"(標準ポート)"},
+      {u"プリンタ ポート (LPT2)", u"(標準ポート)"},
+      {u"USB Serial Port (COM3)", u"FTDI"}}},
 }};
 const std::array<const char16_t*, 6> kSections = {u"総務部", u"経理部", u"営業部", u"開発部", u"製造部", u"人事部"};
 const std::array<Word, 6> kInternetSettings = {{
@@ -206,23 +278,27 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
         add(soft, QStringLiteral("Hotfix"), QStringLiteral("KB%1").arg(890000 + h * 37 + dice.below(30)),
             QStringLiteral("Windows XP Hotfix"), QString(), date);
     for (int a = 0; a < 30; ++a) {
-        const QString name = s(kApplications[size_t((n + a) % int(kApplications.size()))])
-                             + (a >= 12 ? QStringLiteral(" %1").arg(a) : QString());
+        const QString name = s(kApplications[size_t((n + a) % int(kApplications.size()))]);
         const int major = 1 + dice.below(12);
         add(soft, QStringLiteral("Application"), name, QStringLiteral("%1.%2").arg(major).arg(dice.below(100)),
-            QStringLiteral("C:\\Program Files\\App%1\\").arg(a), date);
+            QStringLiteral("C:\\Program Files\\%1\\").arg(name.section(QLatin1Char(' '), 0, 0)), date);
     }
     for (int d = 0; d < 40; ++d) {
-        const int model = dice.below(1000), build = dice.below(3000);
-        add(QStringLiteral("Device"), w(kDeviceCategories[size_t(d % int(kDeviceCategories.size()))]),
-            QStringLiteral("Device %1 Model %2").arg(d).arg(model), QStringLiteral("Microsoft"),
+        const int build = dice.below(3000);
+        const size_t category = size_t(d) % kDeviceCategories.size(), which = size_t(d) / kDeviceCategories.size();
+        const Device& device = kDevices[category][which];
+        add(QStringLiteral("Device"), w(kDeviceCategories[category]), s(device.name), s(device.provider),
             QStringLiteral("5.1.2600.%1").arg(build), date);
     }
-    for (int p = 0; p < 5; ++p)
-        add(hard, QStringLiteral("Printer"),
-            p == 0 ? section + s(en ? u" color laser" : u" カラーレーザー")
-                   : QStringLiteral("EPSON LP-%1").arg(8000 + p * 100),
-            p == 0 ? QStringLiteral("LPT1:") : QStringLiteral("IP_10.0.9.%1").arg(p), QString(), date);
+    if (machine.printers.empty()) {
+        for (int p = 0; p < 5; ++p)
+            add(hard, QStringLiteral("Printer"),
+                p == 0 ? section + s(en ? u" color laser" : u" カラーレーザー")
+                       : QStringLiteral("EPSON LP-%1").arg(8000 + p * 100),
+                p == 0 ? QStringLiteral("LPT1:") : QStringLiteral("IP_10.0.9.%1").arg(p), QString(), date);
+    }
+    for (const auto& [printer, port] : machine.printers)
+        add(hard, QStringLiteral("Printer"), printer, port, QString(), date);
     for (int e = 0; e < 30; ++e)
         add(QStringLiteral("Environmental"), e == 0 ? QStringLiteral("Path") : QStringLiteral("VAR_%1").arg(e),
             e == 0 ? QStringLiteral("C:\\WINDOWS\\system32;C:\\WINDOWS")

@@ -3,6 +3,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include <utility>
+#include <vector>
+
 // Inventory files as the inventory tool writes them on a PC: code page 932 with CR LF, every
 // record the field map asks for, two network adapters, 95 hotfix records that nothing selects,
 // 30 applications, 40 devices, 5 printers and 30 environment variables: about 300 lines. File n
@@ -24,6 +27,9 @@ struct InventoryMachine {
     QString cpu = QStringLiteral("Intel(R) Pentium(R) 4 CPU 2.80GHz");
     QString resolution;                    // empty: one of two by n
     QString year = QStringLiteral("2006"); // the year of the read
+    // the printers, each a name and a port; none: five, a colour laser of the section on LPT1
+    // and four network printers
+    std::vector<std::pair<QString, QString>> printers;
 };
 
 QByteArray InventoryFile(int n, const InventoryMachine& machine = {});
