@@ -1,6 +1,7 @@
 #include "intake/frm_Inport.h"
 
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "intake/InventoryReview.h"
 #include "intake/Staging.h"
@@ -68,11 +69,7 @@ frm_Inport::frm_Inport()
 
 void frm_Inport::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     Form_Resize();
     GridReady = false;
     ClearEditFields();

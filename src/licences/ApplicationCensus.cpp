@@ -1,6 +1,7 @@
 #include "licences/ApplicationCensus.h"
 
 #include "assetlist/ListExport.h"
+#include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/text/AnsiFile.h"
@@ -56,7 +57,7 @@ void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
 {
     db::Recordset rs;
-    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    const ui::FillResult result = Mdl_Access_mdb::WithErrorBox(rs, ui::FillResult::Failed, [&] {
         rs.Open(QStringLiteral("SELECT tbl_ApplicationsList.Application_Name, Count(tbl_ApplicationsList.Key) FROM "
                                "tbl_ApplicationsList ,tbl_Computer_List WHERE (((tbl_Computer_List.Deleted_Flug)=0)) AND "
                                "(tbl_Computer_List.MainKey = tbl_ApplicationsList.Key) GROUP BY "
@@ -111,7 +112,7 @@ ui::FillResult FillComputersGrid(ui::FlexGrid& grid, const QString& applicationN
     if (applicationName.isEmpty())
         return ui::FillResult::NoRows;
     db::Recordset rs;
-    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    const ui::FillResult result = Mdl_Access_mdb::WithErrorBox(rs, ui::FillResult::Failed, [&] {
         rs.Open(ComputersSql(applicationName, location), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             rs.Close();

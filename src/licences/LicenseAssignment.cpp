@@ -1,6 +1,7 @@
 #include "licences/LicenseAssignment.h"
 
 #include "foundation/Mdl_Sub.h"
+#include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/ui/Twips.h"
@@ -85,7 +86,7 @@ QString AssignmentSql(std::int16_t applicationKey, std::int16_t locationKey)
 ui::FillResult FillAssignmentGrid(ui::FlexGrid& grid, std::int16_t applicationKey, std::int16_t locationKey)
 {
     db::Recordset rs;
-    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    const ui::FillResult result = Mdl_Access_mdb::WithErrorBox(rs, ui::FillResult::Failed, [&] {
         rs.Open(AssignmentSql(applicationKey, locationKey), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             grid.SetCols(0);

@@ -139,7 +139,7 @@ bool frm_Add_License::FillLicenseGrid()
 {
     ui::FlexGrid& grid = *MSFlexGrid_License;
     db::Recordset rs;
-    const bool filled = LicenceRoutines::WithErrorBox(rs, false, [&] {
+    const bool filled = Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM tbl_License_Key ORDER BY Application_Name;"), DbConnection(), db::adOpenStatic,
                 db::adLockOptimistic);
         if (rs.RecordCount() < 1) {

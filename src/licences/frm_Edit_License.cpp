@@ -2,6 +2,7 @@
 
 #include "assetlist/ListExport.h"
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "licences/LicenseAssignment.h"
@@ -14,6 +15,7 @@
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
@@ -118,7 +120,7 @@ void frm_Edit_License::buildMenus()
 void frm_Edit_License::buildControls()
 {
     // the grid and the panels stand at fixed places in the client area
-    m_client = LicenceRoutines::AddClientArea(*this, MenuBar);
+    m_client = ui::AddClientArea(this, MenuBar);
 
     auto name = [](QWidget* w, const char* objectName) {
         w->setObjectName(QString::fromUtf8(objectName));
@@ -232,7 +234,7 @@ void frm_Edit_License::buildControls()
 void frm_Edit_License::Form_Load()
 {
     // the main window's size and place, which its menu stored before opening this window
-    LicenceRoutines::TakeMainWindowPlace(*this);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     placeControls();
     ResetAssignmentSelection();
     ClearAssignmentEntry();
@@ -270,7 +272,7 @@ void frm_Edit_License::setMenus(bool add, bool update, bool remove)
 bool frm_Edit_License::View_ApplicatinList()
 {
     db::Recordset rs;
-    return LicenceRoutines::WithErrorBox(rs, false, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT tbl_License_Key.Key, tbl_License_Key.Application_Name, tbl_License_Key.Unit_Num FROM "
                                "tbl_License_Key ORDER BY Application_Name;"),
                 DbConnection(), db::adOpenStatic, db::adLockOptimistic);
@@ -295,7 +297,7 @@ bool frm_Edit_License::View_ApplicatinList()
 bool frm_Edit_License::View_ComputerNameList()
 {
     db::Recordset rs;
-    return LicenceRoutines::WithErrorBox(rs, false, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT tbl_Pclist.*, tbl_Computer_List.*, tbl_Location.Location_Name, tbl_User.User_Name FROM "
                                "tbl_Computer_List, tbl_Pclist, tbl_Location, tbl_User  WHERE ((tbl_Computer_List.Deleted_Flug = 0) "
                                "AND ((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "

@@ -1,12 +1,14 @@
 #include "licences/frm_List_Application.h"
 
 #include "assetlist/ListExport.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/ApplicationCensus.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
@@ -60,7 +62,7 @@ void frm_List_Application::buildMenus()
 void frm_List_Application::buildControls()
 {
     // the grids and the boxes above them stand at places computed from the window's size
-    m_client = LicenceRoutines::AddClientArea(*this, MenuBar);
+    m_client = ui::AddClientArea(this, MenuBar);
 
     auto shownBox = [this](const char* name) {
         auto* box = new QLineEdit(m_client);
@@ -91,7 +93,7 @@ void frm_List_Application::buildControls()
 
 void frm_List_Application::Form_Load()
 {
-    LicenceRoutines::TakeMainWindowPlace(*this);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     placeControls(Mdl_gData::g.MainFormWidth, Mdl_gData::g.MainFormHeight);
     CensusReady = false;
     if (View_ApplicationCensus())

@@ -163,11 +163,7 @@ void frm_Edit_Mail::buildControls()
 
 void frm_Edit_Mail::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     m_list->ResetMailSelection();
     m_list->View_MailList(locationFilter());
     ClearMailEntry();

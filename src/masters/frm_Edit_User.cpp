@@ -170,11 +170,7 @@ void frm_Edit_User::Form_Resize()
 
 void frm_Edit_User::Form_Load()
 {
-    using namespace Mdl_gData;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     MSFlexGrid_Edit->SetRows(0);
     MSFlexGrid_Edit->SetCols(0);
     lbr_Key->setText(QStringLiteral(" "));

@@ -143,11 +143,7 @@ void frm_Edit_Network::buildControls()
 
 void frm_Edit_Network::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     Form_Resize();
     UnitGridReady = false;
     PreviousUnitRow = 1;

@@ -95,19 +95,6 @@ void setTextColour(QWidget* w, int qbColour)
     w->setPalette(p);
 }
 
-// The handler of the window's routines that read rows: a failure shows the error box, closes the
-// row set and ends the routine, leaving what it had filled so far; the routine answers false.
-bool handled(db::Recordset& rs, const std::function<bool()>& body)
-{
-    try {
-        return body();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
-}
-
 // Opens a select; with no row it is closed again and the answer is false.
 bool openRow(db::Recordset& rs, const QString& sql)
 {
@@ -348,7 +335,7 @@ void frm_Edit_Computer::fnc_Clear_Profile()
 bool frm_Edit_Computer::fnc_Fill_UserList()
 {
     db::Recordset rs;
-    return handled(rs, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM tbl_User  WHERE ((tbl_User.Available_flug)='0') ORDER BY  kana,  User_Name;"),
                 DbConnection());
         List_User->clear();
@@ -406,7 +393,7 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
 bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
 {
     db::Recordset rs;
-    return handled(rs, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         if (!openRow(rs, fullProfileSql(key)))
             return false;
         for (int i = 0; i < CpuFeatureCount; ++i) {
@@ -438,7 +425,7 @@ bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
 bool frm_Edit_Computer::fnc_View_Drive(std::int16_t key)
 {
     db::Recordset rs;
-    return handled(rs, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         if (!openRow(rs, QStringLiteral("SELECT DISTINCT tbl_Pclist.*, tbl_Computer_List.* FROM tbl_Pclist, tbl_Computer_List  "
                                         "WHERE ((tbl_Pclist.MainKey=")
                              + QString::number(key) + QStringLiteral(") AND (tbl_Pclist.MainKey = tbl_Computer_List.MainKey));")))
@@ -511,7 +498,7 @@ void frm_Edit_Computer::cmb_Dat_DropDown(int index)
     combo->clear();
     const QString table = g.CodeTables[index].table;
     db::Recordset rs;
-    handled(rs, [&] {
+    Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM ") + table, DbConnection());
         QStringList names;
         for (int c = 0; c < 4; ++c)
@@ -554,7 +541,7 @@ void frm_Edit_Computer::List_User_Click()
     if (!Mdl_Access_mdb::RecordExists(QStringLiteral("SELECT tbl_User.User_Code FROM tbl_User ")))
         return;
     db::Recordset rs;
-    handled(rs, [&] {
+    Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT DISTINCT tbl_Section.Section_Name, tbl_Division.Division_Name, tbl_User.User_Name FROM "
                                "tbl_Section, tbl_Division, tbl_User  WHERE (((tbl_User.Section_Code)=([tbl_Section].[Section_"
                                "Code])) AND ((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND (tbl_User.User_Code=")
