@@ -1,7 +1,7 @@
 #include "licences/ApplicationCensus.h"
 
 #include "assetlist/ListExport.h"
-#include "foundation/Mdl_Access_mdb.h"
+#include "assetlist/ListFill.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/text/AnsiFile.h"
@@ -18,6 +18,7 @@ namespace {
 
 using LicenceRoutines::Gray;
 using LicenceRoutines::White;
+
 
 struct Column {
     const char* heading;
@@ -56,17 +57,14 @@ void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 
 ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
 {
-    db::Recordset rs;
-    const ui::FillResult result = Mdl_Access_mdb::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    return RunListFill(grid, [&grid](db::Recordset& rs) {
         rs.Open(QStringLiteral("SELECT tbl_ApplicationsList.Application_Name, Count(tbl_ApplicationsList.Key) FROM "
                                "tbl_ApplicationsList ,tbl_Computer_List WHERE (((tbl_Computer_List.Deleted_Flug)=0)) AND "
                                "(tbl_Computer_List.MainKey = tbl_ApplicationsList.Key) GROUP BY "
                                "tbl_ApplicationsList.Application_Name;"),
                 Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        if (rs.RecordCount() == 0) {
-            rs.Close();
+        if (rs.RecordCount() == 0)
             return ui::FillResult::NoRows;
-        }
         grid.SetRedraw(false);
         grid.SetCols(int(std::size(kCensusColumns)));
         grid.SetRows(int(rs.RecordCount()) + 1);
@@ -77,11 +75,8 @@ ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
             SetCell(grid, row, 1, FieldText(rs.Value(0)), White, ui::flexAlignLeftBottom);
             SetCell(grid, row, 2, FieldText(rs.Value(1)), White, ui::flexAlignLeftBottom);
         }
-        rs.Close();
         return ui::FillResult::Rows;
     });
-    grid.SetRedraw(true);
-    return result;
 }
 
 QString ComputersSql(const QString& applicationName, std::int16_t location)
@@ -111,37 +106,27 @@ ui::FillResult FillComputersGrid(ui::FlexGrid& grid, const QString& applicationN
 {
     if (applicationName.isEmpty())
         return ui::FillResult::NoRows;
-    db::Recordset rs;
-    const ui::FillResult result = Mdl_Access_mdb::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    return RunListFill(grid, [&](db::Recordset& rs) {
         rs.Open(ComputersSql(applicationName, location), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        if (rs.RecordCount() == 0) {
-            rs.Close();
+        if (rs.RecordCount() == 0)
             return ui::FillResult::NoRows;
-        }
         constexpr int cols = int(std::size(kComputerColumns));
         grid.SetRedraw(false);
         grid.Clear();
         grid.SetCols(cols);
         grid.SetRows(int(rs.RecordCount()) + 1);
         setHeadings(grid, kComputerColumns);
-        int fields[cols];
-        int flags[cols];
-        for (int c = 1; c < cols; ++c) {
-            fields[c] = rs.FieldIndex(kComputerColumns[c].field);
-            flags[c] = kComputerColumns[c].flagField ? rs.FieldIndex(kComputerColumns[c].flagField) : -1;
-        }
+        const auto fields = FieldIndexes(rs, kComputerColumns, &Column::field);
+        const auto flags = FieldIndexes(rs, kComputerColumns, &Column::flagField);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
             for (int c = 1; c < cols; ++c) {
-                const bool gray = flags[c] >= 0 && FieldText(rs.Value(flags[c])) == QLatin1String("1");
+                const bool gray = MasterRetired(rs, flags[c]);
                 SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
             }
         }
-        rs.Close();
         return ui::FillResult::Rows;
     });
-    grid.SetRedraw(true);
-    return result;
 }
 
 std::vector<std::pair<QString, std::int16_t>> LocationChoices()

@@ -1,5 +1,6 @@
 #include "mail/MailList.h"
 
+#include "assetlist/ListFill.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Recordset.h"
@@ -16,6 +17,7 @@ namespace {
 
 constexpr int kWhite = 15;
 constexpr int kGray = 8;
+
 
 // Columns 1 to 17: heading, width in twips, the field of the list's record, and the flag of the
 // master whose retirement turns the cell gray.
@@ -73,13 +75,12 @@ QString MailList::MailListSql(std::int16_t location)
 ui::FillResult MailList::View_MailList(std::int16_t location)
 {
     ui::FlexGrid& grid = MSFlexGrid_Mail;
-    db::Recordset rs;
-    try {
+    // After a failure what was filled is shown: a grid left frozen would hide it to no purpose.
+    return RunListFill(grid, [&](db::Recordset& rs) {
         rs.Open(MailListSql(location), DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             grid.SetRows(0);
             grid.SetCols(0);
-            rs.Close();
             return ui::FillResult::NoRows;
         }
         grid.Clear();
@@ -103,12 +104,8 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
             grid.SetCellBackColor(gray);
         }
 
-        int fields[Cols - 1];
-        int flags[Cols - 1];
-        for (int c = Key; c < Cols; ++c) {
-            fields[c - 1] = rs.FieldIndex(kColumns[c - 1].field);
-            flags[c - 1] = kColumns[c - 1].flag ? rs.FieldIndex(kColumns[c - 1].flag) : -1;
-        }
+        const auto fields = FieldIndexes(rs, kColumns, &MailColumn::field);
+        const auto flags = FieldIndexes(rs, kColumns, &MailColumn::flag);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             grid.SetRow(row);
             grid.SetCol(RunningNumber);
@@ -118,20 +115,12 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
                 grid.SetCol(c);
                 grid.SetCellAlignment(ui::flexAlignLeftBottom);
                 grid.SetText(text(rs.Value(fields[c - 1])));
-                if (flags[c - 1] >= 0 && text(rs.Value(flags[c - 1])) == QLatin1String("1"))
+                if (MasterRetired(rs, flags[c - 1]))
                     grid.SetCellBackColor(gray);
             }
         }
-        grid.SetRedraw(true);
-        rs.Close();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        // What was filled is shown: a grid left frozen would hide it to no purpose.
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
-    return ui::FillResult::Rows;
+        return ui::FillResult::Rows;
+    });
 }
 
 void MailList::ResetMailSelection()
