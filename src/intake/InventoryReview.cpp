@@ -19,7 +19,6 @@ namespace InventoryReview {
 
 namespace {
 
-constexpr int kGray = 8;
 constexpr int kNameWidth = 17;
 // Pagefile_Used, the one number row that column 4 takes without the test of the others
 constexpr int kUntestedRow = 19;
@@ -47,7 +46,7 @@ void paintCell(ui::FlexGrid& grid, int row, int col, int alignment, bool gray)
     grid.SetCol(col);
     grid.SetCellAlignment(alignment);
     if (gray)
-        grid.SetCellBackColor(ui::QBColor(kGray));
+        grid.SetCellBackColor(ui::QBColor(ui::qbGray));
 }
 
 // Number, caption and field of a map row in columns 0 to 2. The two rows of the administrative
@@ -215,7 +214,7 @@ ui::FillResult FillApplicationGrid(ui::FlexGrid& grid)
         const int unit = rs.FieldIndex(u"Unit");
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             setCell(grid, row, 0, QString::number(row));
-            grid.SetCellBackColor(ui::QBColor(kGray));
+            grid.SetCellBackColor(ui::QBColor(ui::qbGray));
             const QString name = fieldText(rs.Value(subItem)), version = fieldText(rs.Value(contents)), path = fieldText(rs.Value(unit));
             if (!name.isEmpty())
                 setCell(grid, row, 1, name);

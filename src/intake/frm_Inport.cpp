@@ -22,13 +22,6 @@
 #include <QMenu>
 #include <QMenuBar>
 
-namespace {
-
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
-
-} // namespace
-
 frm_Inport::frm_Inport()
 {
     setObjectName(QStringLiteral("frm_Inport"));
@@ -115,7 +108,7 @@ void frm_Inport::SelectFirstGridRow()
 {
     CurrentRow = 0;
     PreviousRow = 1;
-    PaintGridRow(1, kWhite);
+    PaintGridRow(1, ui::qbWhite);
 }
 
 void frm_Inport::PaintGridRow(int row, int qbColour) { ui::PaintGridRow(*MSFlexGrid1, row, qbColour); }
@@ -181,8 +174,8 @@ void frm_Inport::MSFlexGrid1_Click()
     // an empty cell leaves the value under edit as it was
     if (!grid.Text().isEmpty())
         tbx_Edit->setText(grid.Text());
-    PaintGridRow(PreviousRow, kWhite);
-    PaintGridRow(CurrentRow, kGray);
+    PaintGridRow(PreviousRow, ui::qbWhite);
+    PaintGridRow(CurrentRow, ui::qbGray);
     PreviousRow = CurrentRow;
 }
 

@@ -16,9 +16,6 @@ using LicenceRoutines::SetCell;
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
-
 
 struct Column {
     const char* heading;
@@ -48,7 +45,7 @@ template <size_t N>
 void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 {
     for (int c = 0; c < int(N); ++c) {
-        SetCell(grid, 0, c, QString::fromUtf8(columns[c].heading), Gray, ui::flexAlignCenterBottom);
+        SetCell(grid, 0, c, QString::fromUtf8(columns[c].heading), ui::qbGray, ui::flexAlignCenterBottom);
         grid.SetColWidth(c, columns[c].width);
     }
 }
@@ -71,9 +68,9 @@ ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
         setHeadings(grid, kCensusColumns);
         // the current row follows the fill, which leaves it on the last row
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
-            SetCell(grid, row, 1, FieldText(rs.Value(0)), White, ui::flexAlignLeftBottom);
-            SetCell(grid, row, 2, FieldText(rs.Value(1)), White, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 0, QString::number(row), ui::qbGray, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 1, FieldText(rs.Value(0)), ui::qbWhite, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 2, FieldText(rs.Value(1)), ui::qbWhite, ui::flexAlignLeftBottom);
         }
         return ui::FillResult::Rows;
     });
@@ -119,10 +116,10 @@ ui::FillResult FillComputersGrid(ui::FlexGrid& grid, const QString& applicationN
         const auto fields = FieldIndexes(rs, kComputerColumns, &Column::field);
         const auto flags = FieldIndexes(rs, kComputerColumns, &Column::flagField);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 0, QString::number(row), ui::qbGray, ui::flexAlignLeftBottom);
             for (int c = 1; c < cols; ++c) {
                 const bool gray = MasterRetired(rs, flags[c]);
-                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
+                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? ui::qbGray : ui::qbWhite, ui::flexAlignLeftBottom);
             }
         }
         return ui::FillResult::Rows;

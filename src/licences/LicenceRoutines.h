@@ -13,10 +13,6 @@ class FlexGrid;
 // What the data routines of the licence windows share.
 namespace LicenceRoutines {
 
-// the two colours of the 16-colour palette that the grids use
-inline constexpr int White = 15;
-inline constexpr int Gray = 8;
-
 // A field's text for a cell or a list: "" for Null, which never compares equal to "".
 QString FieldText(const vb::Variant& v);
 

@@ -15,9 +15,6 @@ using LicenceRoutines::SetCell;
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
-
 
 // When a cell of the column turns gray: never, when the computer is retired, or when the master
 // entry behind it is deleted (its Available_flug, named in flagField, is "1").
@@ -97,17 +94,17 @@ ui::FillResult FillAssignmentGrid(ui::FlexGrid& grid, std::int16_t applicationKe
         grid.SetRows(int(rs.RecordCount()) + 1);
         for (int c = 0; c < kCols; ++c) {
             if (c > 0)
-                SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), Gray, ui::flexAlignCenterBottom);
+                SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), ui::qbGray, ui::flexAlignCenterBottom);
             grid.SetColWidth(c, kColumns[c].width);
         }
         const auto fields = FieldIndexes(rs, kColumns, &AssignmentColumn::field);
         const auto flags = FieldIndexes(rs, kColumns, &AssignmentColumn::flagField);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             grid.SetTextMatrix(row, 0, FieldText(rs.Value(fields[0])));
-            SetCell(grid, row, 1, QString::number(row), Gray, ui::flexAlignGeneral);
+            SetCell(grid, row, 1, QString::number(row), ui::qbGray, ui::flexAlignGeneral);
             for (int c = 2; c < kCols; ++c) {
                 const bool gray = grayCell(kColumns[c], rs, flags[c]);
-                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
+                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? ui::qbGray : ui::qbWhite, ui::flexAlignLeftBottom);
             }
         }
         return ui::FillResult::Rows;

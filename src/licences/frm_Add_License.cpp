@@ -34,8 +34,6 @@ namespace {
 constexpr int kWidth = 5940;
 constexpr int kHeight = 7020;
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 struct LicenseColumn {
     const char* heading;
@@ -152,7 +150,7 @@ bool frm_Add_License::FillLicenseGrid()
         grid.SetCols(kCols);
         grid.SetRows(1);
         for (int c = 0; c < kCols; ++c) {
-            LicenceRoutines::SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), Gray,
+            LicenceRoutines::SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), ui::qbGray,
                                      c > 0 ? ui::flexAlignCenterBottom : ui::flexAlignGeneral);
             grid.SetColWidth(c, kColumns[c].width);
         }
@@ -187,8 +185,8 @@ void frm_Add_License::MSFlexGrid_License_Click()
     tbx_LicenseNum->setText(grid.TextMatrix(SelectedRow, 2));
     // the whole grid is built again on each selection
     FillLicenseGrid();
-    PaintLicenseRow(PreviousRow, White);
-    PaintLicenseRow(SelectedRow, Gray);
+    PaintLicenseRow(PreviousRow, ui::qbWhite);
+    PaintLicenseRow(SelectedRow, ui::qbGray);
     PreviousRow = SelectedRow;
     Mnu_AddRecord->setEnabled(true);
     Mnu_DeleteRecord->setEnabled(true);

@@ -35,8 +35,6 @@ using LicenceRoutines::FieldText;
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 // The grid's place in the client area and the allowances of its size, in twips.
 constexpr int kGridLeft = 4680;
@@ -350,7 +348,7 @@ void frm_Edit_License::ResetAssignmentSelection()
 {
     PreviousRow = 1;
     SelectedRow = 0;
-    PaintAssignmentRow(1, White);
+    PaintAssignmentRow(1, ui::qbWhite);
 }
 
 void frm_Edit_License::PaintAssignmentRow(std::int16_t row, std::int16_t qbColour)
@@ -450,8 +448,8 @@ void frm_Edit_License::FGrid_EditLicense_Click()
     cmb_AssetType->setEditText(grid.TextMatrix(SelectedRow, 8));
     tbx_Purchase_Price->setText(grid.TextMatrix(SelectedRow, 13));
     tbx_Comment->setText(grid.TextMatrix(SelectedRow, 14));
-    PaintAssignmentRow(PreviousRow, White);
-    PaintAssignmentRow(SelectedRow, Gray);
+    PaintAssignmentRow(PreviousRow, ui::qbWhite);
+    PaintAssignmentRow(SelectedRow, ui::qbGray);
     PreviousRow = SelectedRow;
     grid.SetRedraw(true);
     setMenus(false, true, true);

@@ -23,8 +23,6 @@
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 // the grids' place and allowances, in twips
 constexpr int kGridTop = 450;
@@ -158,8 +156,8 @@ void frm_List_Application::MSFlexGrid_Applications_Click()
     ApplicationName = census.TextMatrix(row, 1);
     ApplicationCount = census.TextMatrix(row, 2);
     CensusSelectedRow = std::int16_t(row);
-    PaintCensusRow(CensusPreviousRow, White);
-    PaintCensusRow(CensusSelectedRow, Gray);
+    PaintCensusRow(CensusPreviousRow, ui::qbWhite);
+    PaintCensusRow(CensusSelectedRow, ui::qbGray);
     CensusPreviousRow = CensusSelectedRow;
     tbx_ApplicationName->setText(ApplicationName);
     tbx_ApplicationNum->setText(ApplicationCount);
@@ -177,8 +175,8 @@ void frm_List_Application::MSFlexGrid_User_Click()
     if (!ComputerReady || computers.Row() == 0)
         return;
     ComputerSelectedRow = std::int16_t(computers.Row());
-    PaintComputerRow(ComputerPreviousRow, White);
-    PaintComputerRow(ComputerSelectedRow, Gray);
+    PaintComputerRow(ComputerPreviousRow, ui::qbWhite);
+    PaintComputerRow(ComputerSelectedRow, ui::qbGray);
     ComputerPreviousRow = ComputerSelectedRow;
 }
 

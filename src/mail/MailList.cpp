@@ -15,9 +15,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
-
 
 // Columns 1 to 17: heading, width in twips, the field of the list's record, and the flag of the
 // master whose retirement turns the cell gray.
@@ -89,7 +86,7 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
         GridReady = true;
         grid.SetRedraw(false);
 
-        const QColor gray = ui::QBColor(kGray);
+        const QColor gray = ui::QBColor(ui::qbGray);
         grid.SetTextMatrix(0, RunningNumber, QStringLiteral("Key"));
         grid.SetColWidth(RunningNumber, 600);
         for (int c = Key; c < Cols; ++c) {
@@ -127,7 +124,7 @@ void MailList::ResetMailSelection()
 {
     PreviousRow = 1;
     SelectedRow = 0;
-    PaintMailRow(1, kWhite);
+    PaintMailRow(1, ui::qbWhite);
 }
 
 void MailList::PaintMailRow(int row, int qbColour) { ui::PaintGridRow(MSFlexGrid_Mail, row, qbColour); }

@@ -30,8 +30,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // the grid's place in the client area and the room the window keeps around it, in twips
 constexpr int kGridLeft = 120;
@@ -232,8 +230,8 @@ void frm_Edit_Mail::MSFlexGrid_Mail_Click()
     tbx_User->clear();
     cmb_Computer->setEditText(grid.TextMatrix(row, MailList::ComputerName));
     tbx_Computer->clear();
-    list.PaintMailRow(list.PreviousRow, kWhite);
-    list.PaintMailRow(list.SelectedRow, kGray);
+    list.PaintMailRow(list.PreviousRow, ui::qbWhite);
+    list.PaintMailRow(list.SelectedRow, ui::qbGray);
     list.PreviousRow = list.SelectedRow;
     Mnu_AddRecord->setEnabled(true);
     Mnu_Delete->setEnabled(true);

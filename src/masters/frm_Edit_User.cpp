@@ -28,8 +28,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // the grid's place and height in the client area, in twips
 constexpr int kGridLeft = 120;
@@ -206,7 +204,7 @@ void frm_Edit_User::fillGrid()
             grid.SetColWidth(c, kColumns[c - 1].width);
         }
         m_rowCodes.assign(1, {});
-        const QColor gray = ui::QBColor(kGray);
+        const QColor gray = ui::QBColor(ui::qbGray);
         for (; !rs.Eof(); rs.MoveNext()) {
             const int row = grid.Rows();
             grid.SetRows(row + 1);
@@ -253,8 +251,8 @@ void frm_Edit_User::MSFlexGrid_Edit_Click()
     Mnu_Update->setEnabled(true);
     m_previousRow = m_selectedRow;
     m_selectedRow = row;
-    ui::PaintGridRow(grid, m_previousRow, kWhite);
-    ui::PaintGridRow(grid, row, kGray);
+    ui::PaintGridRow(grid, m_previousRow, ui::qbWhite);
+    ui::PaintGridRow(grid, row, ui::qbGray);
     grid.SetRow(row);
     clearEdits();
     lbr_Key->setText(grid.TextMatrix(row, 1));

@@ -14,7 +14,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-constexpr int kGray = 8;
 
 // The columns of the two grids behind "No": the register shows all twelve, the address list the
 // first ten.
@@ -41,7 +40,7 @@ void paint(ui::FlexGrid& grid, int row, int col, int alignment, bool gray)
     grid.SetCol(col);
     grid.SetCellAlignment(alignment);
     if (gray)
-        grid.SetCellBackColor(ui::QBColor(kGray));
+        grid.SetCellBackColor(ui::QBColor(ui::qbGray));
 }
 
 // The fill both grids share: headings on gray, centred at the bottom; data at the bottom left; a

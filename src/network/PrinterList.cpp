@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
@@ -58,11 +56,11 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
                     grid.SetCols(++columns);
                     counter = 0;
                     grid.SetColWidth(column, 1500);
-                    setCell(grid, 0, column, fieldText(rs.Value(printer)), kGray);
-                    setCell(grid, 1, column, portName, kGray, ui::flexAlignCenterBottom);
+                    setCell(grid, 0, column, fieldText(rs.Value(printer)), ui::qbGray);
+                    setCell(grid, 1, column, portName, ui::qbGray, ui::flexAlignCenterBottom);
                     lastPort = portName;
                 }
-                setCell(grid, counter + 2, column, fieldText(rs.Value(computer)), kWhite, ui::flexAlignLeftBottom);
+                setCell(grid, counter + 2, column, fieldText(rs.Value(computer)), ui::qbWhite, ui::flexAlignLeftBottom);
             }
             ++counter;
             if (counter >= tallest) {
@@ -71,7 +69,7 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
             }
         }
         for (int row = 0; row < grid.Rows(); ++row)
-            setCell(grid, row, 0, QString::number(row), kGray);
+            setCell(grid, row, 0, QString::number(row), ui::qbGray);
         return ui::FillResult::Rows;
     });
 }

@@ -30,8 +30,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // The fields above the register: which control, the device's field it edits, its label, and the
 // register's column it shows. Update writes them in this order.
@@ -188,8 +186,8 @@ void frm_Edit_Network::MSFlexGrid_NetworkUnit_Click()
         // a value longer than its box shows its beginning
         box->setCursorPosition(0);
     }
-    PaintUnitRow(PreviousUnitRow, kWhite);
-    PaintUnitRow(SelectedUnitRow, kGray);
+    PaintUnitRow(PreviousUnitRow, ui::qbWhite);
+    PaintUnitRow(SelectedUnitRow, ui::qbGray);
     PreviousUnitRow = SelectedUnitRow;
     Mnu_AddRecord->setEnabled(true);
     setEditMenus(true);
@@ -262,7 +260,7 @@ void frm_Edit_Network::Mnu_Update_Click()
     fnc_View_NClist(*MSFlexGrid_NetworkUnit);
     // the row painted is the row number chosen before, whichever device the new order put there
     if (MSFlexGrid_NetworkUnit->Rows() > 0)
-        PaintUnitRow(SelectedUnitRow, kGray);
+        PaintUnitRow(SelectedUnitRow, ui::qbGray);
     PreviousUnitRow = SelectedUnitRow;
     Mnu_AddRecord->setEnabled(true);
     setEditMenus(false);

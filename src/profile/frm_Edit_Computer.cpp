@@ -42,14 +42,12 @@ using vb::Variant;
 
 namespace {
 
-constexpr int kBlack = 0;
 
 // The printer dialogs' flags: the setup form (cdlPDPrintSetup); and no selection, the printer's
 // own copies and collation, no print to file (cdlPDNoSelection | cdlPDUseDevModeCopiesAndCollate
 // | cdlPDHidePrintToFile).
 constexpr long kPrintSetupFlags = 0x40;
 constexpr long kPrintFlags = 0x140004;
-constexpr int kDarkGrey = 8;
 
 QString text(const Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
@@ -416,7 +414,7 @@ bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
             lbr_dat[size_t(f.index)]->setText(QString::fromUtf8(f.caption));
         }
         for (size_t i = 0; i < IE_Env.size(); ++i)
-            setTextColour(IE_Env[i], equals(rs.Fields(ProfileTables::IE_Env[i].column).Value(), Variant(1)) ? kBlack : kDarkGrey);
+            setTextColour(IE_Env[i], equals(rs.Fields(ProfileTables::IE_Env[i].column).Value(), Variant(1)) ? ui::qbBlack : ui::qbGray);
         rs.Close();
         return true;
     });
