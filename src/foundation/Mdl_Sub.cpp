@@ -3,6 +3,7 @@
 #include "foundation/Mdl_gData.h"
 #include "platform/text/Cp932.h"
 #include "platform/ui/Form.h"
+#include "platform/vb/Conversion.h"
 
 #include <QPalette>
 #include <QWidget>
@@ -10,6 +11,8 @@
 #include <cmath>
 
 namespace Mdl_Sub {
+
+QString FieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void SetFocusColor(QWidget* control, std::int16_t mode)
 {

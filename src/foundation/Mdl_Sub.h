@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/vb/Variant.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -15,6 +17,9 @@ namespace Mdl_Sub {
 // The focus highlight of a data-entry control: mode 1 pale cyan (128, 255, 255), mode 2 white,
 // any other mode nothing.
 void SetFocusColor(QWidget* control, std::int16_t mode);
+
+// A field's text for a cell, a box or a list: "" for Null (which never compares equal to "").
+QString FieldText(const vb::Variant& v);
 
 // The length of a text in bytes of the ANSI code page: full-width characters count two.
 int ByteLength(const QString& text);

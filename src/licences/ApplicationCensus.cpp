@@ -2,6 +2,7 @@
 
 #include "assetlist/ListExport.h"
 #include "assetlist/ListFill.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/text/AnsiFile.h"
@@ -11,7 +12,7 @@
 
 namespace ApplicationCensus {
 
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 using LicenceRoutines::SetCell;
 
 namespace {

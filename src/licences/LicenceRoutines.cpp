@@ -10,8 +10,6 @@
 
 namespace LicenceRoutines {
 
-QString FieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
-
 void SetCell(ui::FlexGrid& grid, int row, int col, const QString& text, int qbColour, int alignment)
 {
     grid.SetTextMatrix(row, col, text);

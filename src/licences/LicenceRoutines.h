@@ -13,9 +13,6 @@ class FlexGrid;
 // What the data routines of the licence windows share.
 namespace LicenceRoutines {
 
-// A field's text for a cell or a list: "" for Null, which never compares equal to "".
-QString FieldText(const vb::Variant& v);
-
 // Gives the current cell a text, a background of the 16-colour palette and an alignment.
 void SetCell(ui::FlexGrid& grid, int row, int col, const QString& text, int qbColour, int alignment);
 

@@ -10,7 +10,7 @@
 
 namespace LicenseAssignment {
 
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 using LicenceRoutines::SetCell;
 
 namespace {

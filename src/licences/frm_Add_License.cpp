@@ -26,7 +26,7 @@
 #include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 
 namespace {
 

@@ -31,7 +31,7 @@
 #include <QMenuBar>
 
 using Mdl_gData::DbConnection;
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 
 namespace {
 

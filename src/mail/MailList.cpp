@@ -2,6 +2,7 @@
 
 #include "assetlist/ListFill.h"
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/GridSelection.h"
@@ -12,6 +13,7 @@
 #include <optional>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
@@ -44,9 +46,6 @@ constexpr MailColumn kColumns[] = {
     {"OS", 1800, u"Operating_System", nullptr},
 };
 static_assert(std::size(kColumns) + 1 == MailList::Cols);
-
-// A value as the grid and the combos show it: Null as an empty text.
-QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 } // namespace
 
@@ -111,7 +110,7 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
             for (int c = Key; c < Cols; ++c) {
                 grid.SetCol(c);
                 grid.SetCellAlignment(ui::flexAlignLeftBottom);
-                grid.SetText(text(rs.Value(fields[c - 1])));
+                grid.SetText(FieldText(rs.Value(fields[c - 1])));
                 if (MasterRetired(rs, flags[c - 1]))
                     grid.SetCellBackColor(gray);
             }
@@ -156,7 +155,7 @@ std::vector<MailChoice> Locations()
 {
     std::vector<MailChoice> out{{QStringLiteral(" "), 0}};
     const auto more = read(QStringLiteral("SELECT * FROM tbl_Location WHERE (Available_Flug ='0') ORDER BY Location_Code; "),
-                           u"Location_Code", [](db::Recordset& rs) -> std::optional<QString> { return text(rs.Fields(u"Location_Name").Value()); });
+                           u"Location_Code", [](db::Recordset& rs) -> std::optional<QString> { return FieldText(rs.Fields(u"Location_Name").Value()); });
     out.insert(out.end(), more.begin(), more.end());
     return out;
 }
@@ -170,7 +169,7 @@ std::vector<MailChoice> Computers()
                 u"tbl_Pclist.MainKey", [](db::Recordset& rs) -> std::optional<QString> {
                     if (vb::CLng(rs.Fields(u"tbl_Pclist.MainKey").Value()) <= 0)
                         return std::nullopt;
-                    return text(rs.Fields(u"Computer_Name").Value()) + u' ' + text(rs.Fields(u"Location_Name").Value());
+                    return FieldText(rs.Fields(u"Computer_Name").Value()) + u' ' + FieldText(rs.Fields(u"Location_Name").Value());
                 });
 }
 
@@ -178,8 +177,8 @@ std::vector<MailChoice> Users()
 {
     return read(QStringLiteral("SELECT * FROM tbl_User WHERE Available_flug ='0'ORDER BY Section_Code, Division_Code;"),
                 u"User_Code", [](db::Recordset& rs) -> std::optional<QString> {
-                    const QString name = text(rs.Fields(u"User_Name").Value());
-                    if (name.isEmpty() || text(rs.Fields(u"User_Code").Value()).isEmpty())
+                    const QString name = FieldText(rs.Fields(u"User_Name").Value());
+                    if (name.isEmpty() || FieldText(rs.Fields(u"User_Code").Value()).isEmpty())
                         return std::nullopt;
                     return name + u' ';
                 });

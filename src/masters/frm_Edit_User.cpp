@@ -10,8 +10,8 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/ui/GridSelection.h"
 #include "platform/ui/FocusEvents.h"
+#include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -25,6 +25,7 @@
 #include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
@@ -60,8 +61,6 @@ const char16_t* const kEditFields[] = {u"User_Name", u"kana", u"User_Comment", u
                                        u"logon_Password"};
 const char* const kEditCaptions[] = {"ユーザ名", "ふりがな", "補記", "社員番号", "アカウント", "パスワード"};
 constexpr int kFirstEdit = 3;
-
-QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 } // namespace
 
@@ -208,18 +207,18 @@ void frm_Edit_User::fillGrid()
         for (; !rs.Eof(); rs.MoveNext()) {
             const int row = grid.Rows();
             grid.SetRows(row + 1);
-            grid.SetTextMatrix(row, 0, text(rs.Fields(u"tbl_User.User_Code").Value()));
+            grid.SetTextMatrix(row, 0, FieldText(rs.Fields(u"tbl_User.User_Code").Value()));
             for (int c = 1; c < kCols; ++c) {
                 const UserColumn& col = kColumns[c - 1];
-                grid.SetTextMatrix(row, c, text(rs.Fields(col.field).Value()));
-                if (col.flagField && text(rs.Fields(col.flagField).Value()) == QLatin1String("1")) {
+                grid.SetTextMatrix(row, c, FieldText(rs.Fields(col.field).Value()));
+                if (col.flagField && FieldText(rs.Fields(col.flagField).Value()) == QLatin1String("1")) {
                     grid.SetRow(row);
                     grid.SetCol(c);
                     grid.SetCellBackColor(gray);
                 }
             }
-            m_rowCodes.emplace_back(text(rs.Fields(u"tbl_User.Section_Code").Value()),
-                                    text(rs.Fields(u"tbl_User.Division_Code").Value()));
+            m_rowCodes.emplace_back(FieldText(rs.Fields(u"tbl_User.Section_Code").Value()),
+                                    FieldText(rs.Fields(u"tbl_User.Division_Code").Value()));
         }
         grid.SetVisible(true);
         rs.Close();
@@ -275,10 +274,10 @@ void fillMasterList(QComboBox& combo, const QString& sql, const char16_t* codeFi
     db::Recordset rs;
     rs.Open(sql, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext()) {
-        const QString code = text(rs.Fields(codeField).Value());
+        const QString code = FieldText(rs.Fields(codeField).Value());
         if (code.isEmpty())
             continue;
-        combo.addItem(text(rs.Fields(nameField).Value()) + behindName, code);
+        combo.addItem(FieldText(rs.Fields(nameField).Value()) + behindName, code);
     }
     rs.Close();
     combo.setCurrentIndex(-1);

@@ -27,6 +27,7 @@
 #include <QMenuBar>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
@@ -59,8 +60,6 @@ constexpr int kFieldsPerLine = 6;
 
 // The master behind each combo. Its fourth column is taken as the availability flag.
 const char* const kComboTables[] = {"tbl_Location", "tbl_User", "tbl_Manufacturer"};
-
-QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 QString deviceSql(const QString& key)
 {
@@ -210,7 +209,7 @@ void frm_Edit_Network::cmb_Dat_DropDown(int index)
     rs.Open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE ") + names[3] + QStringLiteral(" ='0';"),
             DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext())
-        combo.addItem(fieldText(rs.Fields(1).Value()), fieldText(rs.Fields(0).Value()));
+        combo.addItem(FieldText(rs.Fields(1).Value()), FieldText(rs.Fields(0).Value()));
     rs.Close();
     combo.setCurrentIndex(-1);
     combo.setEditText(typed);

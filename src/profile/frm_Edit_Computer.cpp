@@ -39,6 +39,7 @@ using Mdl_gData::DbConnection;
 using Mdl_gData::g;
 using namespace ProfileTables;
 using vb::Variant;
+using Mdl_Sub::FieldText;
 
 namespace {
 
@@ -48,8 +49,6 @@ namespace {
 // | cdlPDHidePrintToFile).
 constexpr long kPrintSetupFlags = 0x40;
 constexpr long kPrintFlags = 0x140004;
-
-QString text(const Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 // A loaded value shows from its start, as a text box showed it, however long it is.
 void showText(QLineEdit* box, const QString& text)
@@ -370,7 +369,7 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
             const Variant& code = rs.Fields(row.codeField).Value();
             if (!notEmpty(code))
                 return;
-            cmb_Dat[size_t(n)]->setEditText(text(rs.Fields(row.nameField).Value()));
+            cmb_Dat[size_t(n)]->setEditText(FieldText(rs.Fields(row.nameField).Value()));
             tbx_CmbKey[size_t(n)]->setText(vb::CStr(code));
         });
     }
