@@ -48,10 +48,10 @@ protected:
 
 TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
 {
-    master("tbl_Location", 1, QStringLiteral("本館1F"));
-    master("tbl_Location", 2, QStringLiteral("別館"));
-    master("tbl_Location", 3, QStringLiteral("倉庫"));
-    user(1, QStringLiteral("佐藤"), "1");
+    ledger.master("tbl_Location", 1, QStringLiteral("本館1F"));
+    ledger.master("tbl_Location", 2, QStringLiteral("別館"));
+    ledger.master("tbl_Location", 3, QStringLiteral("倉庫"));
+    ledger.user(1, QStringLiteral("佐藤"), "1");
     computer(1, QStringLiteral("PC-A"), 1);
     computer(2, QStringLiteral("PC-B"), 2, 1);
     computer(3, QStringLiteral("PC-C"), 1, 0, 1);

@@ -47,11 +47,11 @@ protected:
                 args << (a.startsWith(u'-') ? a : inventory + a);
             ASSERT_EQ(Admin(args).exitCode, 0);
         }
-        master("tbl_Location", 1, QStringLiteral("本館2F"), "1");
-        master("tbl_Location", 2, QStringLiteral("本館1F"));
-        master("tbl_Location", 3, QStringLiteral("倉庫"));
-        master("tbl_Section", 1, QStringLiteral("総務部"));
-        master("tbl_Division", 1, QStringLiteral("庶務課"), "1");
+        ledger.master("tbl_Location", 1, QStringLiteral("本館2F"), "1");
+        ledger.master("tbl_Location", 2, QStringLiteral("本館1F"));
+        ledger.master("tbl_Location", 3, QStringLiteral("倉庫"));
+        ledger.master("tbl_Section", 1, QStringLiteral("総務部"));
+        ledger.master("tbl_Division", 1, QStringLiteral("庶務課"), "1");
         ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
                                    "VALUES (1, '山田 太郎', '0', 1, 1)"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 1 WHERE MainKey IN (1, 4)"));
