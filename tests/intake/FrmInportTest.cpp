@@ -214,8 +214,7 @@ TEST_F(FrmInport, TheGuardsOfTheWindow)
     read(QStringLiteral("ja_pc01.csv"));
     read(QStringLiteral("ja_pc01.csv"));
     ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = 'A-NAME-OF-EIGHTEEN' WHERE MainKey = 2"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Deleted_Flug) VALUES (3, 0, 0, 0)"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (3, 'ZZ')"));
+    ledger.computer(3, 0, 0, QStringLiteral("Computer_Name = 'ZZ'"));
     frm_Inport& w = open();
     // the names in order; the one of eighteen characters cannot be filled to 17 and ends the list
     EXPECT_EQ(w.List_ComuputerName->count(), 0);

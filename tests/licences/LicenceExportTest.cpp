@@ -52,8 +52,7 @@ protected:
         ledger.master("tbl_Location", 3, QStringLiteral("倉庫"));
         ledger.master("tbl_Section", 1, QStringLiteral("総務部"));
         ledger.master("tbl_Division", 1, QStringLiteral("庶務課"), "1");
-        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                                   "VALUES (1, '山田 太郎', '0', 1, 1)"));
+        ledger.user(1, QStringLiteral("山田 太郎"), QStringLiteral("0"), 1, 1);
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 1 WHERE MainKey IN (1, 4)"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 2 WHERE MainKey IN (2, 3)"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET User_Code = 1 WHERE MainKey = 1"));

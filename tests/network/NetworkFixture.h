@@ -26,11 +26,10 @@ protected:
     // one whose user has no row.
     void addComputers()
     {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (1, '本社1F', '', '0')"));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                                   "VALUES (1, '山田 太郎', '0', 0, 0)"));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Manufacturer VALUES (1, 'NEC', '', '0')"));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Model VALUES (1, 'Mate MY26X', '', '0')"));
+        ledger.master(QStringLiteral("tbl_Location"), 1, QStringLiteral("本社1F"));
+        ledger.user(1, QStringLiteral("山田 太郎"));
+        ledger.master(QStringLiteral("tbl_Manufacturer"), 1, QStringLiteral("NEC"));
+        ledger.master(QStringLiteral("tbl_Model"), 1, QStringLiteral("Mate MY26X"));
         computer(1, 1, 1, QStringLiteral("'PC-SOUMU-01', 'WORKGROUP', '192.168.0.10', 'C0A8000A', '00:0C:29:3A:5B:7C'"),
                  QStringLiteral("'PC-MY26XEZ7', '5X0123456'"));
         computer(2, 0, 0, QStringLiteral("'PC-EIGYO-02', 'EIGYO', '192.168.0.9', 'C0A80009', ''"), QStringLiteral("Null, Null"));
