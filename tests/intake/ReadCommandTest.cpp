@@ -10,10 +10,6 @@ namespace {
 
 class ReadCommand : public ::testing::Test {
 protected:
-    int count(const QString& table, const QString& where = QStringLiteral("1"))
-    {
-        return ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
-    }
     TempLedger ledger;
 };
 
@@ -39,7 +35,7 @@ TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Computer_Name, CPU_MCA FROM tbl_Pclist WHERE MainKey > 0 ORDER BY MainKey")),
               (QStringList{"1|PC-SOUMU-01|0", "2|PC-SOUMU-01|0", "3|SALES-PC07|1"}));
     // staging holds the last accepted file
-    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 97);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97);
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Contents FROM tbl_ReadCsv WHERE SubItem = 'Computer name'")), QStringLiteral("SALES-PC07"));
 }
 
@@ -98,7 +94,7 @@ TEST_F(ReadCommand, UsageAndLedgerErrorsEndWithStatusOneAndChangeNothing)
         EXPECT_TRUE(r.out.isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
         EXPECT_FALSE(r.err.isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
     }
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List")), 1);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List")), 1);
     EXPECT_EQ(folder.read(QStringLiteral("pcdb.mdb")), QByteArray(4096, 'x'));
 }
 
