@@ -8,7 +8,6 @@
 #include "support/TempDir.h"
 
 #include <QAction>
-#include <QFile>
 #include <QLineEdit>
 
 namespace {
@@ -40,8 +39,7 @@ protected:
     {
         dialogs.answerFile(out.file(QStringLiteral("apps")));
         w.Mnu_Export_CSV->trigger();
-        QFile f(out.file(QStringLiteral("apps.csv")));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no file)");
+        return FileBytes(out.file(QStringLiteral("apps.csv")));
     }
     TempDir out;
 };

@@ -15,19 +15,9 @@
 
 namespace {
 
-QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly)) {
-        ADD_FAILURE() << "no file " << path.toStdString();
-        return {};
-    }
-    return f.readAll();
-}
-
 QByteArray expected(const char* name)
 {
-    return fileBytes(QStringLiteral(FENWOLD_TEST_DATA_DIR "/licences/") + QLatin1String(name));
+    return ReadTestData(QStringLiteral("licences/") + QLatin1String(name));
 }
 
 class LicenceExport : public LicencesFixture {
@@ -81,7 +71,7 @@ protected:
         args << QStringLiteral("--ledger") << ledger.path() << out.file(outName);
         return Admin(args);
     }
-    QByteArray written(const QString& outName) { return fileBytes(out.file(outName)); }
+    QByteArray written(const QString& outName) { return FileBytes(out.file(outName)); }
 
     TempDir out;
 };

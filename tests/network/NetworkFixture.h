@@ -4,8 +4,6 @@
 
 #include "platform/ui/Twips.h"
 
-#include <QFile>
-
 // A ledger with the computers and devices of a small office, for the network device window, the
 // printer list and their exports. Set up through plain SQL, as the intake and the profile leave
 // the rows.
@@ -67,16 +65,6 @@ protected:
                                    "MacAddress) VALUES (%1, %2)")
                         .arg(key)
                         .arg(pc));
-    }
-
-    static QByteArray fileBytes(const QString& path)
-    {
-        QFile f(path);
-        if (!f.open(QIODevice::ReadOnly)) {
-            ADD_FAILURE() << "no file " << path.toStdString();
-            return {};
-        }
-        return f.readAll();
     }
 
     // What the rebuild leaves, row by row in the order of its keys.
