@@ -2,6 +2,7 @@
 
 #include "foundation/Mdl_Access_mdb.h"
 #include "platform/db/Recordset.h"
+#include "platform/vb/Conversion.h"
 #include "platform/vb/VbError.h"
 
 ui::FillResult RunListFill(ui::FlexGrid& grid, const std::function<ui::FillResult(db::Recordset& rs)>& fill)
@@ -18,4 +19,12 @@ ui::FillResult RunListFill(ui::FlexGrid& grid, const std::function<ui::FillResul
     }
     grid.SetRedraw(redraw);
     return result;
+}
+
+bool MasterRetired(const db::Recordset& rs, int flag)
+{
+    if (flag < 0)
+        return false;
+    const vb::Variant& value = rs.Value(flag);
+    return !value.IsNull() && vb::CStr(value) == QLatin1String("1");
 }

@@ -20,8 +20,6 @@ namespace {
 
 // The palette colours of the list: gray for headings, row numbers, the selection and a retired
 // master entry; white for data cells.
-constexpr std::int16_t kGray = 8;
-constexpr std::int16_t kWhite = 15;
 
 // The columns a view can show. Users' DB.ini files hold these row numbers, so the order is fixed.
 // Two rows stay crossed as they always were: "ページファイル全容量" reads Pagefile_Used and
@@ -251,8 +249,8 @@ ui::FillResult MainList::fnc_View_PClist()
         grid.SetVisible(false);
         grid.Clear();
 
-        const QColor gray = ui::QBColor(kGray);
-        const QColor white = ui::QBColor(kWhite);
+        const QColor gray = ui::QBColor(ui::qbGray);
+        const QColor white = ui::QBColor(ui::qbWhite);
         const QString equipped = QStringLiteral("装備");
         const QString enabled = QStringLiteral("有効");
         const QString gigabytes = QStringLiteral("GB");
@@ -332,7 +330,7 @@ ui::FillResult MainList::fnc_View_PClist()
         if (grid.Rows() > 1) {
             PreviousRow = 1;
             CurrentRow = 1;
-            PaintGridRow(CurrentRow, kGray);
+            PaintGridRow(CurrentRow, ui::qbGray);
         }
         rs.Close();
     } catch (const vb::VbError& e) {
@@ -356,7 +354,7 @@ void MainList::MSFlexGrid_Main_ini()
     PreviousRow = 1;
     CurrentRow = 0;
     CurrentMainKey = 0;
-    PaintGridRow(PreviousRow, kWhite);
+    PaintGridRow(PreviousRow, ui::qbWhite);
 }
 
 // The system paints its selection itself, over whatever colour the cells had: the gray of a
@@ -384,7 +382,7 @@ void MainList::MSFlexGrid_Main_Click()
         for (MenuItem item : {Mnu_Edit_profile, Mnu_Delete, Mnu_ReplacePC, Mnu_View_Select})
             SetMenuEnabled(item, true);
     }
-    PaintGridRow(PreviousRow, kWhite);
-    PaintGridRow(CurrentRow, kGray);
+    PaintGridRow(PreviousRow, ui::qbWhite);
+    PaintGridRow(CurrentRow, ui::qbGray);
     PreviousRow = CurrentRow;
 }

@@ -92,16 +92,12 @@ bool ExecuteSql(const QString& sql)
 bool RecordExists(const QString& sql)
 {
     db::Recordset rs;
-    try {
+    return WithErrorBox(rs, false, [&] {
         rs.Open(sql, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         const bool found = rs.RecordCount() != 0;
         rs.Close();
         return found;
-    } catch (const vb::VbError& e) {
-        StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
+    });
 }
 
 QString FieldTypeName(const QString& sql)
@@ -147,30 +143,20 @@ std::int16_t maxOf(db::Recordset& rs, const QString& name, const QString& table,
 std::int16_t MaxOfFirstColumn(const QString& tableName)
 {
     db::Recordset rs;
-    try {
+    return WithErrorBox(rs, std::int16_t(0), [&] {
         vb::FixedArray<QString, 33> names;
         rs.Open(QStringLiteral("SELECT * FROM ") + tableName, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         for (int i = 0; i < rs.FieldCount(); ++i)
             names[i] = rs.Fields(i).Name();
         rs.Close();
         return maxOf(rs, names[0], tableName, -1);
-    } catch (const vb::VbError& e) {
-        StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return 0;
-    }
+    });
 }
 
 std::int16_t MaxMainKey()
 {
     db::Recordset rs;
-    try {
-        return maxOf(rs, QStringLiteral("MainKey"), QStringLiteral("tbl_Computer_List"), 0);
-    } catch (const vb::VbError& e) {
-        StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return 0;
-    }
+    return WithErrorBox(rs, std::int16_t(0), [&] { return maxOf(rs, QStringLiteral("MainKey"), QStringLiteral("tbl_Computer_List"), 0); });
 }
 
 QString SanitizeField(const QString& text)

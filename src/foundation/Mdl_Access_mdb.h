@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/db/Recordset.h"
 #include "platform/vb/VbError.h"
 
 #include <QString>
@@ -46,5 +47,20 @@ QString SanitizeField(const QString& text);
 
 // The one error display: the number and the description, title "警告", critical icon, OK.
 void StandardErrorBox(const vb::VbError& e);
+
+// Runs a routine under the handler of the system's data routines: a failure shows
+// StandardErrorBox, closes the recordset and answers failed, leaving whatever the routine had
+// done so far.
+template <typename Result, typename Routine>
+Result WithErrorBox(db::Recordset& rs, Result failed, Routine routine)
+{
+    try {
+        return routine();
+    } catch (const vb::VbError& e) {
+        StandardErrorBox(e);
+        rs.CloseIfOpen();
+        return failed;
+    }
+}
 
 } // namespace Mdl_Access_mdb

@@ -1,6 +1,9 @@
 #include "foundation/Mdl_Sub.h"
 
+#include "foundation/Mdl_gData.h"
 #include "platform/text/Cp932.h"
+#include "platform/ui/Form.h"
+#include "platform/vb/Conversion.h"
 
 #include <QPalette>
 #include <QWidget>
@@ -8,6 +11,8 @@
 #include <cmath>
 
 namespace Mdl_Sub {
+
+QString FieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void SetFocusColor(QWidget* control, std::int16_t mode)
 {
@@ -37,6 +42,17 @@ std::int32_t DigitsToNumber(const QString& text)
             result = std::int32_t(next);
     }
     return result;
+}
+
+void TakeMainWindowPlace(ui::Form& form)
+{
+    using Mdl_gData::g;
+    if (g.MainFormWidth > 0)
+        form.SetWidth(g.MainFormWidth);
+    if (g.MainFormHeight > 0)
+        form.SetHeight(g.MainFormHeight);
+    form.SetTop(g.MainFormTop);
+    form.SetLeft(g.MainFormLeft);
 }
 
 } // namespace Mdl_Sub

@@ -3,6 +3,7 @@
 #include "assetlist/ListFill.h"
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_IP.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "intake/InventoryFieldMap.h"
 #include "intake/Staging.h"
@@ -14,12 +15,12 @@
 #include <optional>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace InventoryReview {
 
 namespace {
 
-constexpr int kGray = 8;
 constexpr int kNameWidth = 17;
 // Pagefile_Used, the one number row that column 4 takes without the test of the others
 constexpr int kUntestedRow = 19;
@@ -31,8 +32,6 @@ struct Heading {
 constexpr Heading kComparisonHeadings[ComparisonColumns] = {
     {"No", 500}, {"項目名", 1500}, {"Key", 1500}, {"PCのデータ", 2000}, {"読込んだデータ", 2000}};
 constexpr Heading kApplicationHeadings[] = {{"", 450}, {"アプリケーション名", 4000}, {"バージョン", 1000}, {"インストール場所", 2000}};
-
-QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void setCell(ui::FlexGrid& grid, int row, int col, const QString& value)
 {
@@ -47,7 +46,7 @@ void paintCell(ui::FlexGrid& grid, int row, int col, int alignment, bool gray)
     grid.SetCol(col);
     grid.SetCellAlignment(alignment);
     if (gray)
-        grid.SetCellBackColor(ui::QBColor(kGray));
+        grid.SetCellBackColor(ui::QBColor(ui::qbGray));
 }
 
 // Number, caption and field of a map row in columns 0 to 2. The two rows of the administrative
@@ -117,11 +116,11 @@ void FillComputerList(const std::function<void(const QString& entry, std::int16_
             if (key == 0)
                 continue;
             // a computer without a name is listed with an empty one
-            const QString name = fieldText(rs.Fields(u"Computer_Name").Value());
+            const QString name = FieldText(rs.Fields(u"Computer_Name").Value());
             if (name.size() > kNameWidth)
                 throw vb::VbError::InvalidProcedureCall();
-            add(name + QString(kNameWidth - name.size(), QLatin1Char(' ')) + fieldText(rs.Fields(u"Location_Name").Value())
-                    + QStringLiteral(" ") + fieldText(rs.Fields(u"User_Name").Value()),
+            add(name + QString(kNameWidth - name.size(), QLatin1Char(' ')) + FieldText(rs.Fields(u"Location_Name").Value())
+                    + QStringLiteral(" ") + FieldText(rs.Fields(u"User_Name").Value()),
                 key);
         }
         rs.Close();
@@ -163,7 +162,7 @@ bool FillPcColumn(ui::FlexGrid& grid, const QString& key)
             writeRowHead(grid, row, true);
             // both tables have an Update; the row shows the inventory's
             const QString value =
-                fieldText(rs.Fields(row.field == QLatin1String("Update") ? QStringView(u"tbl_Pclist.Update") : row.field).Value());
+                FieldText(rs.Fields(row.field == QLatin1String("Update") ? QStringView(u"tbl_Pclist.Update") : row.field).Value());
             if (!value.isEmpty())
                 setCell(grid, row.row, LedgerValue, value);
         }
@@ -215,8 +214,8 @@ ui::FillResult FillApplicationGrid(ui::FlexGrid& grid)
         const int unit = rs.FieldIndex(u"Unit");
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             setCell(grid, row, 0, QString::number(row));
-            grid.SetCellBackColor(ui::QBColor(kGray));
-            const QString name = fieldText(rs.Value(subItem)), version = fieldText(rs.Value(contents)), path = fieldText(rs.Value(unit));
+            grid.SetCellBackColor(ui::QBColor(ui::qbGray));
+            const QString name = FieldText(rs.Value(subItem)), version = FieldText(rs.Value(contents)), path = FieldText(rs.Value(unit));
             if (!name.isEmpty())
                 setCell(grid, row, 1, name);
             // the version shows when there is a path, and the path when there is a version

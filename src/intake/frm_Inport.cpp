@@ -1,6 +1,7 @@
 #include "intake/frm_Inport.h"
 
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "intake/InventoryReview.h"
 #include "intake/Staging.h"
@@ -8,8 +9,8 @@
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/ui/FormLayout.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/GridSelection.h"
 #include "platform/ui/ListBox.h"
 #include "platform/ui/Menus.h"
@@ -20,13 +21,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-
-namespace {
-
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
-
-} // namespace
 
 frm_Inport::frm_Inport()
 {
@@ -68,11 +62,7 @@ frm_Inport::frm_Inport()
 
 void frm_Inport::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     Form_Resize();
     GridReady = false;
     ClearEditFields();
@@ -118,7 +108,7 @@ void frm_Inport::SelectFirstGridRow()
 {
     CurrentRow = 0;
     PreviousRow = 1;
-    PaintGridRow(1, kWhite);
+    PaintGridRow(1, ui::qbWhite);
 }
 
 void frm_Inport::PaintGridRow(int row, int qbColour) { ui::PaintGridRow(*MSFlexGrid1, row, qbColour); }
@@ -184,8 +174,8 @@ void frm_Inport::MSFlexGrid1_Click()
     // an empty cell leaves the value under edit as it was
     if (!grid.Text().isEmpty())
         tbx_Edit->setText(grid.Text());
-    PaintGridRow(PreviousRow, kWhite);
-    PaintGridRow(CurrentRow, kGray);
+    PaintGridRow(PreviousRow, ui::qbWhite);
+    PaintGridRow(CurrentRow, ui::qbGray);
     PreviousRow = CurrentRow;
 }
 

@@ -1,6 +1,8 @@
 #include "licences/ApplicationCensus.h"
 
 #include "assetlist/ListExport.h"
+#include "assetlist/ListFill.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/text/AnsiFile.h"
@@ -10,13 +12,11 @@
 
 namespace ApplicationCensus {
 
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 using LicenceRoutines::SetCell;
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 struct Column {
     const char* heading;
@@ -46,7 +46,7 @@ template <size_t N>
 void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 {
     for (int c = 0; c < int(N); ++c) {
-        SetCell(grid, 0, c, QString::fromUtf8(columns[c].heading), Gray, ui::flexAlignCenterBottom);
+        SetCell(grid, 0, c, QString::fromUtf8(columns[c].heading), ui::qbGray, ui::flexAlignCenterBottom);
         grid.SetColWidth(c, columns[c].width);
     }
 }
@@ -55,32 +55,26 @@ void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 
 ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
 {
-    db::Recordset rs;
-    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    return RunListFill(grid, [&grid](db::Recordset& rs) {
         rs.Open(QStringLiteral("SELECT tbl_ApplicationsList.Application_Name, Count(tbl_ApplicationsList.Key) FROM "
                                "tbl_ApplicationsList ,tbl_Computer_List WHERE (((tbl_Computer_List.Deleted_Flug)=0)) AND "
                                "(tbl_Computer_List.MainKey = tbl_ApplicationsList.Key) GROUP BY "
                                "tbl_ApplicationsList.Application_Name;"),
                 Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        if (rs.RecordCount() == 0) {
-            rs.Close();
+        if (rs.RecordCount() == 0)
             return ui::FillResult::NoRows;
-        }
         grid.SetRedraw(false);
         grid.SetCols(int(std::size(kCensusColumns)));
         grid.SetRows(int(rs.RecordCount()) + 1);
         setHeadings(grid, kCensusColumns);
         // the current row follows the fill, which leaves it on the last row
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
-            SetCell(grid, row, 1, FieldText(rs.Value(0)), White, ui::flexAlignLeftBottom);
-            SetCell(grid, row, 2, FieldText(rs.Value(1)), White, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 0, QString::number(row), ui::qbGray, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 1, FieldText(rs.Value(0)), ui::qbWhite, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 2, FieldText(rs.Value(1)), ui::qbWhite, ui::flexAlignLeftBottom);
         }
-        rs.Close();
         return ui::FillResult::Rows;
     });
-    grid.SetRedraw(true);
-    return result;
 }
 
 QString ComputersSql(const QString& applicationName, std::int16_t location)
@@ -110,37 +104,27 @@ ui::FillResult FillComputersGrid(ui::FlexGrid& grid, const QString& applicationN
 {
     if (applicationName.isEmpty())
         return ui::FillResult::NoRows;
-    db::Recordset rs;
-    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    return RunListFill(grid, [&](db::Recordset& rs) {
         rs.Open(ComputersSql(applicationName, location), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
-        if (rs.RecordCount() == 0) {
-            rs.Close();
+        if (rs.RecordCount() == 0)
             return ui::FillResult::NoRows;
-        }
         constexpr int cols = int(std::size(kComputerColumns));
         grid.SetRedraw(false);
         grid.Clear();
         grid.SetCols(cols);
         grid.SetRows(int(rs.RecordCount()) + 1);
         setHeadings(grid, kComputerColumns);
-        int fields[cols];
-        int flags[cols];
-        for (int c = 1; c < cols; ++c) {
-            fields[c] = rs.FieldIndex(kComputerColumns[c].field);
-            flags[c] = kComputerColumns[c].flagField ? rs.FieldIndex(kComputerColumns[c].flagField) : -1;
-        }
+        const auto fields = FieldIndexes(rs, kComputerColumns, &Column::field);
+        const auto flags = FieldIndexes(rs, kComputerColumns, &Column::flagField);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            SetCell(grid, row, 0, QString::number(row), Gray, ui::flexAlignLeftBottom);
+            SetCell(grid, row, 0, QString::number(row), ui::qbGray, ui::flexAlignLeftBottom);
             for (int c = 1; c < cols; ++c) {
-                const bool gray = flags[c] >= 0 && FieldText(rs.Value(flags[c])) == QLatin1String("1");
-                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
+                const bool gray = MasterRetired(rs, flags[c]);
+                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? ui::qbGray : ui::qbWhite, ui::flexAlignLeftBottom);
             }
         }
-        rs.Close();
         return ui::FillResult::Rows;
     });
-    grid.SetRedraw(true);
-    return result;
 }
 
 std::vector<std::pair<QString, std::int16_t>> LocationChoices()

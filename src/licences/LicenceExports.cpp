@@ -15,18 +15,6 @@
 
 namespace {
 
-// Writes a grid the way the windows' list-to-CSV export does; a failure goes to the error box.
-bool writeGrid(const ui::FlexGrid& grid, const QString& out)
-{
-    try {
-        ListExport::WriteGrid(grid, out);
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        return false;
-    }
-    return true;
-}
-
 bool writeLicences(const app::CommandLine&, const QString& out)
 {
     // The grids' host is never shown, so neither are the grids.
@@ -34,7 +22,7 @@ bool writeLicences(const app::CommandLine&, const QString& out)
     ui::FlexGrid grid(&host);
     if (LicenseAssignment::FillAssignmentGrid(grid, 0, 0) == ui::FillResult::Failed)
         return false;
-    return writeGrid(grid, out);
+    return ListExport::SaveGrid(grid, out);
 }
 
 bool writeCensus(const app::CommandLine&, const QString& out)
@@ -43,7 +31,7 @@ bool writeCensus(const app::CommandLine&, const QString& out)
     ui::FlexGrid grid(&host);
     if (ApplicationCensus::FillCensusGrid(grid) == ui::FillResult::Failed)
         return false;
-    return writeGrid(grid, out);
+    return ListExport::SaveGrid(grid, out);
 }
 
 // The census row of the name, or 0.

@@ -2,18 +2,13 @@
 
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Connection.h"
+#include "platform/db/Recordset.h"
 #include "platform/ui/Dialogs.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/ui/Form.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
 
-#include <QMenuBar>
-#include <QVBoxLayout>
-
 namespace LicenceRoutines {
-
-QString FieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void SetCell(ui::FlexGrid& grid, int row, int col, const QString& text, int qbColour, int alignment)
 {
@@ -53,29 +48,6 @@ bool DeleteSelectedRow(const ui::FlexGrid& grid, std::int16_t selectedRow, const
     c.Execute(QStringLiteral("DELETE * FROM ") + table + QStringLiteral(" WHERE Key= ") + key + QStringLiteral(";"));
     remove.Commit();
     return true;
-}
-
-void TakeMainWindowPlace(ui::Form& form)
-{
-    using Mdl_gData::g;
-    if (g.MainFormWidth > 0)
-        form.SetWidth(g.MainFormWidth);
-    if (g.MainFormHeight > 0)
-        form.SetHeight(g.MainFormHeight);
-    form.SetTop(g.MainFormTop);
-    form.SetLeft(g.MainFormLeft);
-}
-
-QWidget* AddClientArea(QWidget& form, QMenuBar* menuBar)
-{
-    auto* layout = new QVBoxLayout(&form);
-    layout->setMenuBar(menuBar);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->setSizeConstraint(QLayout::SetNoConstraint);
-    auto* client = new QWidget(&form);
-    layout->addWidget(client, 1);
-    return client;
 }
 
 } // namespace LicenceRoutines

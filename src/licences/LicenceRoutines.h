@@ -1,9 +1,6 @@
 #pragma once
 
-#include "foundation/Mdl_Access_mdb.h"
-#include "platform/db/Recordset.h"
 #include "platform/vb/Variant.h"
-#include "platform/vb/VbError.h"
 
 #include <QString>
 
@@ -11,34 +8,10 @@
 
 namespace ui {
 class FlexGrid;
-class Form;
 }
-class QMenuBar;
-class QWidget;
 
 // What the data routines of the licence windows share.
 namespace LicenceRoutines {
-
-// the two colours of the 16-colour palette that the grids use
-inline constexpr int White = 15;
-inline constexpr int Gray = 8;
-
-// Runs a routine under the handler of the system's data routines: a failure shows
-// StandardErrorBox, closes the recordset and answers failed.
-template <typename Result, typename Routine>
-Result WithErrorBox(db::Recordset& rs, Result failed, Routine routine)
-{
-    try {
-        return routine();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return failed;
-    }
-}
-
-// A field's text for a cell or a list: "" for Null, which never compares equal to "".
-QString FieldText(const vb::Variant& v);
 
 // Gives the current cell a text, a background of the 16-colour palette and an alignment.
 void SetCell(ui::FlexGrid& grid, int row, int col, const QString& text, int qbColour, int alignment);
@@ -51,13 +24,5 @@ std::int16_t NextKey(const QString& table);
 // whose column 0 holds a key, deletes that row of the table in one transaction. True when the
 // statement ran; a failing statement goes to the caller.
 bool DeleteSelectedRow(const ui::FlexGrid& grid, std::int16_t selectedRow, const QString& table);
-
-// Takes the size and place that the main window's globals hold (a size of 0, before the main
-// window ever stood, is left alone).
-void TakeMainWindowPlace(ui::Form& form);
-
-// The area under the window's menu bar, where the controls stand at places in twips that the
-// window computes from its size; the window may be made as small as the user likes.
-QWidget* AddClientArea(QWidget& form, QMenuBar* menuBar);
 
 } // namespace LicenceRoutines

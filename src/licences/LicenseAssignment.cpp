@@ -1,5 +1,6 @@
 #include "licences/LicenseAssignment.h"
 
+#include "assetlist/ListFill.h"
 #include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
@@ -9,13 +10,11 @@
 
 namespace LicenseAssignment {
 
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 using LicenceRoutines::SetCell;
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 // When a cell of the column turns gray: never, when the computer is retired, or when the master
 // entry behind it is deleted (its Available_flug, named in flagField, is "1").
@@ -48,13 +47,11 @@ const AssignmentColumn kColumns[] = {
 };
 constexpr int kCols = int(std::size(kColumns));
 
-bool grayCell(const AssignmentColumn& col, const vb::Variant& flag)
+bool grayCell(const AssignmentColumn& col, const db::Recordset& rs, int flag)
 {
-    if (flag.IsNull())
-        return false;
     switch (col.gray) {
-    case GrayWhen::Retired: return vb::CInt(flag) != 0;
-    case GrayWhen::DeletedMaster: return vb::CStr(flag) == QLatin1String("1");
+    case GrayWhen::Retired: return flag >= 0 && !rs.Value(flag).IsNull() && vb::CInt(rs.Value(flag)) != 0;
+    case GrayWhen::DeletedMaster: return MasterRetired(rs, flag);
     case GrayWhen::Never: break;
     }
     return false;
@@ -84,42 +81,34 @@ QString AssignmentSql(std::int16_t applicationKey, std::int16_t locationKey)
 
 ui::FillResult FillAssignmentGrid(ui::FlexGrid& grid, std::int16_t applicationKey, std::int16_t locationKey)
 {
-    db::Recordset rs;
-    const ui::FillResult result = LicenceRoutines::WithErrorBox(rs, ui::FillResult::Failed, [&] {
+    return RunListFill(grid, [&](db::Recordset& rs) {
         rs.Open(AssignmentSql(applicationKey, locationKey), Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             grid.SetCols(0);
             grid.SetRows(0);
-            rs.Close();
             return ui::FillResult::NoRows;
         }
         grid.SetRedraw(false);
         grid.Clear();
         grid.SetCols(kCols);
         grid.SetRows(int(rs.RecordCount()) + 1);
-        int fields[kCols];
-        int flags[kCols];
         for (int c = 0; c < kCols; ++c) {
-            const AssignmentColumn& col = kColumns[c];
             if (c > 0)
-                SetCell(grid, 0, c, QString::fromUtf8(col.heading), Gray, ui::flexAlignCenterBottom);
-            grid.SetColWidth(c, col.width);
-            fields[c] = col.field ? rs.FieldIndex(col.field) : -1;
-            flags[c] = col.flagField ? rs.FieldIndex(col.flagField) : -1;
+                SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), ui::qbGray, ui::flexAlignCenterBottom);
+            grid.SetColWidth(c, kColumns[c].width);
         }
+        const auto fields = FieldIndexes(rs, kColumns, &AssignmentColumn::field);
+        const auto flags = FieldIndexes(rs, kColumns, &AssignmentColumn::flagField);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             grid.SetTextMatrix(row, 0, FieldText(rs.Value(fields[0])));
-            SetCell(grid, row, 1, QString::number(row), Gray, ui::flexAlignGeneral);
+            SetCell(grid, row, 1, QString::number(row), ui::qbGray, ui::flexAlignGeneral);
             for (int c = 2; c < kCols; ++c) {
-                const bool gray = flags[c] >= 0 && grayCell(kColumns[c], rs.Value(flags[c]));
-                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? Gray : White, ui::flexAlignLeftBottom);
+                const bool gray = grayCell(kColumns[c], rs, flags[c]);
+                SetCell(grid, row, c, FieldText(rs.Value(fields[c])), gray ? ui::qbGray : ui::qbWhite, ui::flexAlignLeftBottom);
             }
         }
-        rs.Close();
         return ui::FillResult::Rows;
     });
-    grid.SetRedraw(true);
-    return result;
 }
 
 QString ApplicationRow(const QString& name, const vb::Variant& unitNum)

@@ -26,7 +26,7 @@
 #include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 
 namespace {
 
@@ -34,8 +34,6 @@ namespace {
 constexpr int kWidth = 5940;
 constexpr int kHeight = 7020;
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 struct LicenseColumn {
     const char* heading;
@@ -139,7 +137,7 @@ bool frm_Add_License::FillLicenseGrid()
 {
     ui::FlexGrid& grid = *MSFlexGrid_License;
     db::Recordset rs;
-    const bool filled = LicenceRoutines::WithErrorBox(rs, false, [&] {
+    const bool filled = Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM tbl_License_Key ORDER BY Application_Name;"), DbConnection(), db::adOpenStatic,
                 db::adLockOptimistic);
         if (rs.RecordCount() < 1) {
@@ -152,7 +150,7 @@ bool frm_Add_License::FillLicenseGrid()
         grid.SetCols(kCols);
         grid.SetRows(1);
         for (int c = 0; c < kCols; ++c) {
-            LicenceRoutines::SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), Gray,
+            LicenceRoutines::SetCell(grid, 0, c, QString::fromUtf8(kColumns[c].heading), ui::qbGray,
                                      c > 0 ? ui::flexAlignCenterBottom : ui::flexAlignGeneral);
             grid.SetColWidth(c, kColumns[c].width);
         }
@@ -187,8 +185,8 @@ void frm_Add_License::MSFlexGrid_License_Click()
     tbx_LicenseNum->setText(grid.TextMatrix(SelectedRow, 2));
     // the whole grid is built again on each selection
     FillLicenseGrid();
-    PaintLicenseRow(PreviousRow, White);
-    PaintLicenseRow(SelectedRow, Gray);
+    PaintLicenseRow(PreviousRow, ui::qbWhite);
+    PaintLicenseRow(SelectedRow, ui::qbGray);
     PreviousRow = SelectedRow;
     Mnu_AddRecord->setEnabled(true);
     Mnu_DeleteRecord->setEnabled(true);

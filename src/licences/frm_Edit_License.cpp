@@ -2,6 +2,7 @@
 
 #include "assetlist/ListExport.h"
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/LicenceRoutines.h"
 #include "licences/LicenseAssignment.h"
@@ -14,6 +15,7 @@
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/Fonts.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
@@ -29,12 +31,10 @@
 #include <QMenuBar>
 
 using Mdl_gData::DbConnection;
-using LicenceRoutines::FieldText;
+using Mdl_Sub::FieldText;
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 // The grid's place in the client area and the allowances of its size, in twips.
 constexpr int kGridLeft = 4680;
@@ -118,7 +118,7 @@ void frm_Edit_License::buildMenus()
 void frm_Edit_License::buildControls()
 {
     // the grid and the panels stand at fixed places in the client area
-    m_client = LicenceRoutines::AddClientArea(*this, MenuBar);
+    m_client = ui::AddClientArea(this, MenuBar);
 
     auto name = [](QWidget* w, const char* objectName) {
         w->setObjectName(QString::fromUtf8(objectName));
@@ -232,7 +232,7 @@ void frm_Edit_License::buildControls()
 void frm_Edit_License::Form_Load()
 {
     // the main window's size and place, which its menu stored before opening this window
-    LicenceRoutines::TakeMainWindowPlace(*this);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     placeControls();
     ResetAssignmentSelection();
     ClearAssignmentEntry();
@@ -270,7 +270,7 @@ void frm_Edit_License::setMenus(bool add, bool update, bool remove)
 bool frm_Edit_License::View_ApplicatinList()
 {
     db::Recordset rs;
-    return LicenceRoutines::WithErrorBox(rs, false, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT tbl_License_Key.Key, tbl_License_Key.Application_Name, tbl_License_Key.Unit_Num FROM "
                                "tbl_License_Key ORDER BY Application_Name;"),
                 DbConnection(), db::adOpenStatic, db::adLockOptimistic);
@@ -295,7 +295,7 @@ bool frm_Edit_License::View_ApplicatinList()
 bool frm_Edit_License::View_ComputerNameList()
 {
     db::Recordset rs;
-    return LicenceRoutines::WithErrorBox(rs, false, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT tbl_Pclist.*, tbl_Computer_List.*, tbl_Location.Location_Name, tbl_User.User_Name FROM "
                                "tbl_Computer_List, tbl_Pclist, tbl_Location, tbl_User  WHERE ((tbl_Computer_List.Deleted_Flug = 0) "
                                "AND ((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "
@@ -348,7 +348,7 @@ void frm_Edit_License::ResetAssignmentSelection()
 {
     PreviousRow = 1;
     SelectedRow = 0;
-    PaintAssignmentRow(1, White);
+    PaintAssignmentRow(1, ui::qbWhite);
 }
 
 void frm_Edit_License::PaintAssignmentRow(std::int16_t row, std::int16_t qbColour)
@@ -448,8 +448,8 @@ void frm_Edit_License::FGrid_EditLicense_Click()
     cmb_AssetType->setEditText(grid.TextMatrix(SelectedRow, 8));
     tbx_Purchase_Price->setText(grid.TextMatrix(SelectedRow, 13));
     tbx_Comment->setText(grid.TextMatrix(SelectedRow, 14));
-    PaintAssignmentRow(PreviousRow, White);
-    PaintAssignmentRow(SelectedRow, Gray);
+    PaintAssignmentRow(PreviousRow, ui::qbWhite);
+    PaintAssignmentRow(SelectedRow, ui::qbGray);
     PreviousRow = SelectedRow;
     grid.SetRedraw(true);
     setMenus(false, true, true);

@@ -1,12 +1,14 @@
 #include "licences/frm_List_Application.h"
 
 #include "assetlist/ListExport.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "licences/ApplicationCensus.h"
 #include "licences/LicenceRoutines.h"
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
+#include "platform/ui/FormLayout.h"
 #include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
@@ -21,8 +23,6 @@
 
 namespace {
 
-using LicenceRoutines::Gray;
-using LicenceRoutines::White;
 
 // the grids' place and allowances, in twips
 constexpr int kGridTop = 450;
@@ -60,7 +60,7 @@ void frm_List_Application::buildMenus()
 void frm_List_Application::buildControls()
 {
     // the grids and the boxes above them stand at places computed from the window's size
-    m_client = LicenceRoutines::AddClientArea(*this, MenuBar);
+    m_client = ui::AddClientArea(this, MenuBar);
 
     auto shownBox = [this](const char* name) {
         auto* box = new QLineEdit(m_client);
@@ -91,7 +91,7 @@ void frm_List_Application::buildControls()
 
 void frm_List_Application::Form_Load()
 {
-    LicenceRoutines::TakeMainWindowPlace(*this);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     placeControls(Mdl_gData::g.MainFormWidth, Mdl_gData::g.MainFormHeight);
     CensusReady = false;
     if (View_ApplicationCensus())
@@ -156,8 +156,8 @@ void frm_List_Application::MSFlexGrid_Applications_Click()
     ApplicationName = census.TextMatrix(row, 1);
     ApplicationCount = census.TextMatrix(row, 2);
     CensusSelectedRow = std::int16_t(row);
-    PaintCensusRow(CensusPreviousRow, White);
-    PaintCensusRow(CensusSelectedRow, Gray);
+    PaintCensusRow(CensusPreviousRow, ui::qbWhite);
+    PaintCensusRow(CensusSelectedRow, ui::qbGray);
     CensusPreviousRow = CensusSelectedRow;
     tbx_ApplicationName->setText(ApplicationName);
     tbx_ApplicationNum->setText(ApplicationCount);
@@ -175,8 +175,8 @@ void frm_List_Application::MSFlexGrid_User_Click()
     if (!ComputerReady || computers.Row() == 0)
         return;
     ComputerSelectedRow = std::int16_t(computers.Row());
-    PaintComputerRow(ComputerPreviousRow, White);
-    PaintComputerRow(ComputerSelectedRow, Gray);
+    PaintComputerRow(ComputerPreviousRow, ui::qbWhite);
+    PaintComputerRow(ComputerSelectedRow, ui::qbGray);
     ComputerPreviousRow = ComputerSelectedRow;
 }
 

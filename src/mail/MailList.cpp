@@ -1,6 +1,8 @@
 #include "mail/MailList.h"
 
+#include "assetlist/ListFill.h"
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/GridSelection.h"
@@ -11,11 +13,10 @@
 #include <optional>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // Columns 1 to 17: heading, width in twips, the field of the list's record, and the flag of the
 // master whose retirement turns the cell gray.
@@ -46,9 +47,6 @@ constexpr MailColumn kColumns[] = {
 };
 static_assert(std::size(kColumns) + 1 == MailList::Cols);
 
-// A value as the grid and the combos show it: Null as an empty text.
-QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
-
 } // namespace
 
 MailList::MailList(ui::FlexGrid& grid) : MSFlexGrid_Mail(grid) {}
@@ -73,13 +71,12 @@ QString MailList::MailListSql(std::int16_t location)
 ui::FillResult MailList::View_MailList(std::int16_t location)
 {
     ui::FlexGrid& grid = MSFlexGrid_Mail;
-    db::Recordset rs;
-    try {
+    // After a failure what was filled is shown: a grid left frozen would hide it to no purpose.
+    return RunListFill(grid, [&](db::Recordset& rs) {
         rs.Open(MailListSql(location), DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0) {
             grid.SetRows(0);
             grid.SetCols(0);
-            rs.Close();
             return ui::FillResult::NoRows;
         }
         grid.Clear();
@@ -88,7 +85,7 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
         GridReady = true;
         grid.SetRedraw(false);
 
-        const QColor gray = ui::QBColor(kGray);
+        const QColor gray = ui::QBColor(ui::qbGray);
         grid.SetTextMatrix(0, RunningNumber, QStringLiteral("Key"));
         grid.SetColWidth(RunningNumber, 600);
         for (int c = Key; c < Cols; ++c) {
@@ -103,12 +100,8 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
             grid.SetCellBackColor(gray);
         }
 
-        int fields[Cols - 1];
-        int flags[Cols - 1];
-        for (int c = Key; c < Cols; ++c) {
-            fields[c - 1] = rs.FieldIndex(kColumns[c - 1].field);
-            flags[c - 1] = kColumns[c - 1].flag ? rs.FieldIndex(kColumns[c - 1].flag) : -1;
-        }
+        const auto fields = FieldIndexes(rs, kColumns, &MailColumn::field);
+        const auto flags = FieldIndexes(rs, kColumns, &MailColumn::flag);
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
             grid.SetRow(row);
             grid.SetCol(RunningNumber);
@@ -117,28 +110,20 @@ ui::FillResult MailList::View_MailList(std::int16_t location)
             for (int c = Key; c < Cols; ++c) {
                 grid.SetCol(c);
                 grid.SetCellAlignment(ui::flexAlignLeftBottom);
-                grid.SetText(text(rs.Value(fields[c - 1])));
-                if (flags[c - 1] >= 0 && text(rs.Value(flags[c - 1])) == QLatin1String("1"))
+                grid.SetText(FieldText(rs.Value(fields[c - 1])));
+                if (MasterRetired(rs, flags[c - 1]))
                     grid.SetCellBackColor(gray);
             }
         }
-        grid.SetRedraw(true);
-        rs.Close();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        // What was filled is shown: a grid left frozen would hide it to no purpose.
-        grid.SetRedraw(true);
-        return ui::FillResult::Failed;
-    }
-    return ui::FillResult::Rows;
+        return ui::FillResult::Rows;
+    });
 }
 
 void MailList::ResetMailSelection()
 {
     PreviousRow = 1;
     SelectedRow = 0;
-    PaintMailRow(1, kWhite);
+    PaintMailRow(1, ui::qbWhite);
 }
 
 void MailList::PaintMailRow(int row, int qbColour) { ui::PaintGridRow(MSFlexGrid_Mail, row, qbColour); }
@@ -170,7 +155,7 @@ std::vector<MailChoice> Locations()
 {
     std::vector<MailChoice> out{{QStringLiteral(" "), 0}};
     const auto more = read(QStringLiteral("SELECT * FROM tbl_Location WHERE (Available_Flug ='0') ORDER BY Location_Code; "),
-                           u"Location_Code", [](db::Recordset& rs) -> std::optional<QString> { return text(rs.Fields(u"Location_Name").Value()); });
+                           u"Location_Code", [](db::Recordset& rs) -> std::optional<QString> { return FieldText(rs.Fields(u"Location_Name").Value()); });
     out.insert(out.end(), more.begin(), more.end());
     return out;
 }
@@ -184,7 +169,7 @@ std::vector<MailChoice> Computers()
                 u"tbl_Pclist.MainKey", [](db::Recordset& rs) -> std::optional<QString> {
                     if (vb::CLng(rs.Fields(u"tbl_Pclist.MainKey").Value()) <= 0)
                         return std::nullopt;
-                    return text(rs.Fields(u"Computer_Name").Value()) + u' ' + text(rs.Fields(u"Location_Name").Value());
+                    return FieldText(rs.Fields(u"Computer_Name").Value()) + u' ' + FieldText(rs.Fields(u"Location_Name").Value());
                 });
 }
 
@@ -192,8 +177,8 @@ std::vector<MailChoice> Users()
 {
     return read(QStringLiteral("SELECT * FROM tbl_User WHERE Available_flug ='0'ORDER BY Section_Code, Division_Code;"),
                 u"User_Code", [](db::Recordset& rs) -> std::optional<QString> {
-                    const QString name = text(rs.Fields(u"User_Name").Value());
-                    if (name.isEmpty() || text(rs.Fields(u"User_Code").Value()).isEmpty())
+                    const QString name = FieldText(rs.Fields(u"User_Name").Value());
+                    if (name.isEmpty() || FieldText(rs.Fields(u"User_Code").Value()).isEmpty())
                         return std::nullopt;
                     return name + u' ';
                 });

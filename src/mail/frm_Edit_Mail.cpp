@@ -30,8 +30,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // the grid's place in the client area and the room the window keeps around it, in twips
 constexpr int kGridLeft = 120;
@@ -163,11 +161,7 @@ void frm_Edit_Mail::buildControls()
 
 void frm_Edit_Mail::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     m_list->ResetMailSelection();
     m_list->View_MailList(locationFilter());
     ClearMailEntry();
@@ -236,8 +230,8 @@ void frm_Edit_Mail::MSFlexGrid_Mail_Click()
     tbx_User->clear();
     cmb_Computer->setEditText(grid.TextMatrix(row, MailList::ComputerName));
     tbx_Computer->clear();
-    list.PaintMailRow(list.PreviousRow, kWhite);
-    list.PaintMailRow(list.SelectedRow, kGray);
+    list.PaintMailRow(list.PreviousRow, ui::qbWhite);
+    list.PaintMailRow(list.SelectedRow, ui::qbGray);
     list.PreviousRow = list.SelectedRow;
     Mnu_AddRecord->setEnabled(true);
     Mnu_Delete->setEnabled(true);

@@ -9,8 +9,8 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/FixedSize.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/ui/GridSelection.h"
 #include "platform/ui/FocusEvents.h"
+#include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -30,8 +30,6 @@ namespace {
 constexpr int kWidth = 5940;
 constexpr int kHeight = 7020;
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // the first four fields of every master table
 enum Field { Code = 0, Name = 1, Comment = 2, Flag = 3 };
@@ -131,8 +129,8 @@ void frm_Edit_Table::fillGrid()
     grid.SetFixedRows(1);
     grid.SetCols(int(names.size()));
     grid.SetRows(1);
-    const QColor gray = ui::QBColor(kGray);
-    const QColor white = ui::QBColor(kWhite);
+    const QColor gray = ui::QBColor(ui::qbGray);
+    const QColor white = ui::QBColor(ui::qbWhite);
     for (int c = 0; c < int(names.size()); ++c) {
         grid.SetTextMatrix(0, c, c < 4 ? QString::fromUtf8(kHeadings[c]) : names[c]);
         if (c < 4)
@@ -177,9 +175,9 @@ void frm_Edit_Table::MSFlexGrid_Edit_Click()
     Mnu_Delete->setEnabled(true);
     Mnu_Update->setEnabled(true);
     grid.SetVisible(false);
-    ui::PaintGridRow(grid, m_selectedRow, kWhite);
+    ui::PaintGridRow(grid, m_selectedRow, ui::qbWhite);
     m_selectedRow = row;
-    ui::PaintGridRow(grid, row, kGray);
+    ui::PaintGridRow(grid, row, ui::qbGray);
     for (int c = 0; c < 3 && c < grid.Cols(); ++c)
         tbxEdit[size_t(c)]->setText(grid.TextMatrix(row, c));
     grid.SetVisible(true);

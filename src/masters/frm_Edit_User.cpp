@@ -10,8 +10,8 @@
 #include "platform/ui/Dispatch.h"
 #include "platform/ui/DropDownCombo.h"
 #include "platform/ui/FlexGrid.h"
-#include "platform/ui/GridSelection.h"
 #include "platform/ui/FocusEvents.h"
+#include "platform/ui/GridSelection.h"
 #include "platform/ui/Menus.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
@@ -25,11 +25,10 @@
 #include <QVBoxLayout>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // the grid's place and height in the client area, in twips
 constexpr int kGridLeft = 120;
@@ -62,8 +61,6 @@ const char16_t* const kEditFields[] = {u"User_Name", u"kana", u"User_Comment", u
                                        u"logon_Password"};
 const char* const kEditCaptions[] = {"ユーザ名", "ふりがな", "補記", "社員番号", "アカウント", "パスワード"};
 constexpr int kFirstEdit = 3;
-
-QString text(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 } // namespace
 
@@ -170,11 +167,7 @@ void frm_Edit_User::Form_Resize()
 
 void frm_Edit_User::Form_Load()
 {
-    using namespace Mdl_gData;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     MSFlexGrid_Edit->SetRows(0);
     MSFlexGrid_Edit->SetCols(0);
     lbr_Key->setText(QStringLiteral(" "));
@@ -210,22 +203,22 @@ void frm_Edit_User::fillGrid()
             grid.SetColWidth(c, kColumns[c - 1].width);
         }
         m_rowCodes.assign(1, {});
-        const QColor gray = ui::QBColor(kGray);
+        const QColor gray = ui::QBColor(ui::qbGray);
         for (; !rs.Eof(); rs.MoveNext()) {
             const int row = grid.Rows();
             grid.SetRows(row + 1);
-            grid.SetTextMatrix(row, 0, text(rs.Fields(u"tbl_User.User_Code").Value()));
+            grid.SetTextMatrix(row, 0, FieldText(rs.Fields(u"tbl_User.User_Code").Value()));
             for (int c = 1; c < kCols; ++c) {
                 const UserColumn& col = kColumns[c - 1];
-                grid.SetTextMatrix(row, c, text(rs.Fields(col.field).Value()));
-                if (col.flagField && text(rs.Fields(col.flagField).Value()) == QLatin1String("1")) {
+                grid.SetTextMatrix(row, c, FieldText(rs.Fields(col.field).Value()));
+                if (col.flagField && FieldText(rs.Fields(col.flagField).Value()) == QLatin1String("1")) {
                     grid.SetRow(row);
                     grid.SetCol(c);
                     grid.SetCellBackColor(gray);
                 }
             }
-            m_rowCodes.emplace_back(text(rs.Fields(u"tbl_User.Section_Code").Value()),
-                                    text(rs.Fields(u"tbl_User.Division_Code").Value()));
+            m_rowCodes.emplace_back(FieldText(rs.Fields(u"tbl_User.Section_Code").Value()),
+                                    FieldText(rs.Fields(u"tbl_User.Division_Code").Value()));
         }
         grid.SetVisible(true);
         rs.Close();
@@ -257,8 +250,8 @@ void frm_Edit_User::MSFlexGrid_Edit_Click()
     Mnu_Update->setEnabled(true);
     m_previousRow = m_selectedRow;
     m_selectedRow = row;
-    ui::PaintGridRow(grid, m_previousRow, kWhite);
-    ui::PaintGridRow(grid, row, kGray);
+    ui::PaintGridRow(grid, m_previousRow, ui::qbWhite);
+    ui::PaintGridRow(grid, row, ui::qbGray);
     grid.SetRow(row);
     clearEdits();
     lbr_Key->setText(grid.TextMatrix(row, 1));
@@ -281,10 +274,10 @@ void fillMasterList(QComboBox& combo, const QString& sql, const char16_t* codeFi
     db::Recordset rs;
     rs.Open(sql, DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext()) {
-        const QString code = text(rs.Fields(codeField).Value());
+        const QString code = FieldText(rs.Fields(codeField).Value());
         if (code.isEmpty())
             continue;
-        combo.addItem(text(rs.Fields(nameField).Value()) + behindName, code);
+        combo.addItem(FieldText(rs.Fields(nameField).Value()) + behindName, code);
     }
     rs.Close();
     combo.setCurrentIndex(-1);

@@ -2,6 +2,7 @@
 
 #include "assetlist/ListFill.h"
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Connection.h"
 #include "platform/db/Recordset.h"
@@ -11,10 +12,10 @@
 #include <array>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
-constexpr int kGray = 8;
 
 // The columns of the two grids behind "No": the register shows all twelve, the address list the
 // first ten.
@@ -33,15 +34,13 @@ constexpr ListColumn kColumns[] = {
 constexpr int kRegisterColumns = 12;
 constexpr int kAddressColumns = 10;
 
-QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
-
 void paint(ui::FlexGrid& grid, int row, int col, int alignment, bool gray)
 {
     grid.SetRow(row);
     grid.SetCol(col);
     grid.SetCellAlignment(alignment);
     if (gray)
-        grid.SetCellBackColor(ui::QBColor(kGray));
+        grid.SetCellBackColor(ui::QBColor(ui::qbGray));
 }
 
 // The fill both grids share: headings on gray, centred at the bottom; data at the bottom left; a
@@ -72,10 +71,10 @@ ui::FillResult fillGrid(ui::FlexGrid& grid, const QString& sql, int shownColumns
         }
         const int key = keyInColumnZero ? rs.FieldIndex(u"Key") : -1;
         for (int row = 1; !rs.Eof(); rs.MoveNext(), ++row) {
-            grid.SetTextMatrix(row, 0, keyInColumnZero ? fieldText(rs.Fields(key).Value()) : QString::number(row));
+            grid.SetTextMatrix(row, 0, keyInColumnZero ? FieldText(rs.Fields(key).Value()) : QString::number(row));
             paint(grid, row, 0, ui::flexAlignLeftBottom, !keyInColumnZero);
             for (int c = 1; c <= shownColumns; ++c) {
-                const QString value = fieldText(rs.Fields(field[size_t(c - 1)]).Value());
+                const QString value = FieldText(rs.Fields(field[size_t(c - 1)]).Value());
                 if (!value.isEmpty())
                     grid.SetTextMatrix(row, c, value);
                 paint(grid, row, c, ui::flexAlignLeftBottom, false);
@@ -124,7 +123,7 @@ void insertListRow(db::Recordset& rs, const std::array<int, ListValueCount>& fie
     for (int i = 0; i < ListValueCount; ++i) {
         if (field[size_t(i)] < 0)
             continue;
-        const QString v = fieldText(rs.Value(field[size_t(i)]));
+        const QString v = FieldText(rs.Value(field[size_t(i)]));
         value[size_t(i)] = v.isEmpty() ? QStringLiteral(" ") : v;
     }
     QString sql = QStringLiteral("INSERT INTO tbl_NetworkList ([Key], Location_Name, User_Name, Computer_Name, WorkGroup, "

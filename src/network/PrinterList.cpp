@@ -1,17 +1,16 @@
 #include "network/PrinterList.h"
 
 #include "assetlist/ListFill.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/db/Recordset.h"
 #include "platform/ui/Twips.h"
 #include "platform/vb/Conversion.h"
 
+using Mdl_Sub::FieldText;
+
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
-
-QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 void setCell(ui::FlexGrid& grid, int row, int col, const QString& value, int qbColour, int alignment = -1)
 {
@@ -51,18 +50,18 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
         grid.SetColWidth(0, 600);
         for (; !rs.Eof(); rs.MoveNext()) {
             // a Null port reads as "" and is skipped with the empty ones
-            const QString portName = fieldText(rs.Value(port));
+            const QString portName = FieldText(rs.Value(port));
             if (!portName.isEmpty()) {
                 if (portName != lastPort) {
                     ++column;
                     grid.SetCols(++columns);
                     counter = 0;
                     grid.SetColWidth(column, 1500);
-                    setCell(grid, 0, column, fieldText(rs.Value(printer)), kGray);
-                    setCell(grid, 1, column, portName, kGray, ui::flexAlignCenterBottom);
+                    setCell(grid, 0, column, FieldText(rs.Value(printer)), ui::qbGray);
+                    setCell(grid, 1, column, portName, ui::qbGray, ui::flexAlignCenterBottom);
                     lastPort = portName;
                 }
-                setCell(grid, counter + 2, column, fieldText(rs.Value(computer)), kWhite, ui::flexAlignLeftBottom);
+                setCell(grid, counter + 2, column, FieldText(rs.Value(computer)), ui::qbWhite, ui::flexAlignLeftBottom);
             }
             ++counter;
             if (counter >= tallest) {
@@ -71,7 +70,7 @@ ui::FillResult View_PrinterList(ui::FlexGrid& grid)
             }
         }
         for (int row = 0; row < grid.Rows(); ++row)
-            setCell(grid, row, 0, QString::number(row), kGray);
+            setCell(grid, row, 0, QString::number(row), ui::qbGray);
         return ui::FillResult::Rows;
     });
 }

@@ -27,11 +27,10 @@
 #include <QMenuBar>
 
 using Mdl_gData::DbConnection;
+using Mdl_Sub::FieldText;
 
 namespace {
 
-constexpr int kWhite = 15;
-constexpr int kGray = 8;
 
 // The fields above the register: which control, the device's field it edits, its label, and the
 // register's column it shows. Update writes them in this order.
@@ -61,8 +60,6 @@ constexpr int kFieldsPerLine = 6;
 
 // The master behind each combo. Its fourth column is taken as the availability flag.
 const char* const kComboTables[] = {"tbl_Location", "tbl_User", "tbl_Manufacturer"};
-
-QString fieldText(const vb::Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 QString deviceSql(const QString& key)
 {
@@ -143,11 +140,7 @@ void frm_Edit_Network::buildControls()
 
 void frm_Edit_Network::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     Form_Resize();
     UnitGridReady = false;
     PreviousUnitRow = 1;
@@ -192,8 +185,8 @@ void frm_Edit_Network::MSFlexGrid_NetworkUnit_Click()
         // a value longer than its box shows its beginning
         box->setCursorPosition(0);
     }
-    PaintUnitRow(PreviousUnitRow, kWhite);
-    PaintUnitRow(SelectedUnitRow, kGray);
+    PaintUnitRow(PreviousUnitRow, ui::qbWhite);
+    PaintUnitRow(SelectedUnitRow, ui::qbGray);
     PreviousUnitRow = SelectedUnitRow;
     Mnu_AddRecord->setEnabled(true);
     setEditMenus(true);
@@ -216,7 +209,7 @@ void frm_Edit_Network::cmb_Dat_DropDown(int index)
     rs.Open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE ") + names[3] + QStringLiteral(" ='0';"),
             DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext())
-        combo.addItem(fieldText(rs.Fields(1).Value()), fieldText(rs.Fields(0).Value()));
+        combo.addItem(FieldText(rs.Fields(1).Value()), FieldText(rs.Fields(0).Value()));
     rs.Close();
     combo.setCurrentIndex(-1);
     combo.setEditText(typed);
@@ -266,7 +259,7 @@ void frm_Edit_Network::Mnu_Update_Click()
     fnc_View_NClist(*MSFlexGrid_NetworkUnit);
     // the row painted is the row number chosen before, whichever device the new order put there
     if (MSFlexGrid_NetworkUnit->Rows() > 0)
-        PaintUnitRow(SelectedUnitRow, kGray);
+        PaintUnitRow(SelectedUnitRow, ui::qbGray);
     PreviousUnitRow = SelectedUnitRow;
     Mnu_AddRecord->setEnabled(true);
     setEditMenus(false);

@@ -1,6 +1,7 @@
 #include "network/frm_List_Printer.h"
 
 #include "assetlist/ListExport.h"
+#include "foundation/Mdl_Sub.h"
 #include "foundation/Mdl_gData.h"
 #include "network/PrinterList.h"
 #include "platform/ui/FlexGrid.h"
@@ -31,11 +32,7 @@ frm_List_Printer::frm_List_Printer()
 
 void frm_List_Printer::Form_Load()
 {
-    using Mdl_gData::g;
-    SetWidth(g.MainFormWidth);
-    SetHeight(g.MainFormHeight);
-    SetTop(g.MainFormTop);
-    SetLeft(g.MainFormLeft);
+    Mdl_Sub::TakeMainWindowPlace(*this);
     Form_Resize();
     View_PrinterList(*MSFlexGrid_Printer);
 }

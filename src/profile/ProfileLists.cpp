@@ -29,7 +29,6 @@ namespace {
 
 constexpr int kCols = 4;
 constexpr int kWidths[kCols] = {450, 4000, 4000, 1200};
-constexpr int kDarkGrey = 8;
 
 // The text of a value that is not "" (a Null counts as not different and is skipped).
 bool hasText(const vb::Variant& v, QString& text)
@@ -98,7 +97,7 @@ ui::FillResult FillListGrid(ui::FlexGrid& grid, const ListGrid& list, std::int16
         grid.Clear();
         grid.SetCols(kCols);
         grid.SetRows(int(rs.RecordCount()) + 1);
-        const QColor darkGrey = ui::QBColor(kDarkGrey);
+        const QColor darkGrey = ui::QBColor(ui::qbGray);
         grid.SetRow(0);
         for (int c = 0; c < kCols; ++c) {
             grid.SetColWidth(c, kWidths[c]);

@@ -39,19 +39,16 @@ using Mdl_gData::DbConnection;
 using Mdl_gData::g;
 using namespace ProfileTables;
 using vb::Variant;
+using Mdl_Sub::FieldText;
 
 namespace {
 
-constexpr int kBlack = 0;
 
 // The printer dialogs' flags: the setup form (cdlPDPrintSetup); and no selection, the printer's
 // own copies and collation, no print to file (cdlPDNoSelection | cdlPDUseDevModeCopiesAndCollate
 // | cdlPDHidePrintToFile).
 constexpr long kPrintSetupFlags = 0x40;
 constexpr long kPrintFlags = 0x140004;
-constexpr int kDarkGrey = 8;
-
-QString text(const Variant& v) { return v.IsNull() ? QString() : vb::CStr(v); }
 
 // A loaded value shows from its start, as a text box showed it, however long it is.
 void showText(QLineEdit* box, const QString& text)
@@ -93,19 +90,6 @@ void setTextColour(QWidget* w, int qbColour)
     QPalette p = w->palette();
     p.setColor(QPalette::WindowText, ui::QBColor(qbColour));
     w->setPalette(p);
-}
-
-// The handler of the window's routines that read rows: a failure shows the error box, closes the
-// row set and ends the routine, leaving what it had filled so far; the routine answers false.
-bool handled(db::Recordset& rs, const std::function<bool()>& body)
-{
-    try {
-        return body();
-    } catch (const vb::VbError& e) {
-        Mdl_Access_mdb::StandardErrorBox(e);
-        rs.CloseIfOpen();
-        return false;
-    }
 }
 
 // Opens a select; with no row it is closed again and the answer is false.
@@ -348,7 +332,7 @@ void frm_Edit_Computer::fnc_Clear_Profile()
 bool frm_Edit_Computer::fnc_Fill_UserList()
 {
     db::Recordset rs;
-    return handled(rs, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM tbl_User  WHERE ((tbl_User.Available_flug)='0') ORDER BY  kana,  User_Name;"),
                 DbConnection());
         List_User->clear();
@@ -385,7 +369,7 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
             const Variant& code = rs.Fields(row.codeField).Value();
             if (!notEmpty(code))
                 return;
-            cmb_Dat[size_t(n)]->setEditText(text(rs.Fields(row.nameField).Value()));
+            cmb_Dat[size_t(n)]->setEditText(FieldText(rs.Fields(row.nameField).Value()));
             tbx_CmbKey[size_t(n)]->setText(vb::CStr(code));
         });
     }
@@ -406,7 +390,7 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
 bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
 {
     db::Recordset rs;
-    return handled(rs, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         if (!openRow(rs, fullProfileSql(key)))
             return false;
         for (int i = 0; i < CpuFeatureCount; ++i) {
@@ -429,7 +413,7 @@ bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
             lbr_dat[size_t(f.index)]->setText(QString::fromUtf8(f.caption));
         }
         for (size_t i = 0; i < IE_Env.size(); ++i)
-            setTextColour(IE_Env[i], equals(rs.Fields(ProfileTables::IE_Env[i].column).Value(), Variant(1)) ? kBlack : kDarkGrey);
+            setTextColour(IE_Env[i], equals(rs.Fields(ProfileTables::IE_Env[i].column).Value(), Variant(1)) ? ui::qbBlack : ui::qbGray);
         rs.Close();
         return true;
     });
@@ -438,7 +422,7 @@ bool frm_Edit_Computer::fnc_View_Profile(std::int16_t key)
 bool frm_Edit_Computer::fnc_View_Drive(std::int16_t key)
 {
     db::Recordset rs;
-    return handled(rs, [&] {
+    return Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         if (!openRow(rs, QStringLiteral("SELECT DISTINCT tbl_Pclist.*, tbl_Computer_List.* FROM tbl_Pclist, tbl_Computer_List  "
                                         "WHERE ((tbl_Pclist.MainKey=")
                              + QString::number(key) + QStringLiteral(") AND (tbl_Pclist.MainKey = tbl_Computer_List.MainKey));")))
@@ -511,7 +495,7 @@ void frm_Edit_Computer::cmb_Dat_DropDown(int index)
     combo->clear();
     const QString table = g.CodeTables[index].table;
     db::Recordset rs;
-    handled(rs, [&] {
+    Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT * FROM ") + table, DbConnection());
         QStringList names;
         for (int c = 0; c < 4; ++c)
@@ -554,7 +538,7 @@ void frm_Edit_Computer::List_User_Click()
     if (!Mdl_Access_mdb::RecordExists(QStringLiteral("SELECT tbl_User.User_Code FROM tbl_User ")))
         return;
     db::Recordset rs;
-    handled(rs, [&] {
+    Mdl_Access_mdb::WithErrorBox(rs, false, [&] {
         rs.Open(QStringLiteral("SELECT DISTINCT tbl_Section.Section_Name, tbl_Division.Division_Name, tbl_User.User_Name FROM "
                                "tbl_Section, tbl_Division, tbl_User  WHERE (((tbl_User.Section_Code)=([tbl_Section].[Section_"
                                "Code])) AND ((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND (tbl_User.User_Code=")

@@ -39,11 +39,6 @@ protected:
         return rows.join(u'|');
     }
 
-    int count(const QString& table, const QString& where)
-    {
-        return ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
-    }
-
     void expectQuestion(const ScriptedDialogs::Call& call, const QString& text)
     {
         EXPECT_EQ(call.kind, ScriptedDialogs::Call::Message);
@@ -69,7 +64,7 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
     EXPECT_FALSE(loadList());
     ListCommands::Mnu_AddNew(*list);
     EXPECT_TRUE(dialogs.calls().empty());
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey <> 0")), 0);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey <> 0")), 0);
 
     // a computer made by an inventory read makes the list ready
     ledger.computer(1, 0, 0, "Computer_Name = 'PC-SOUMU-01'");
@@ -78,7 +73,7 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
     ListCommands::Mnu_AddNew(*list);
     ASSERT_EQ(dialogs.calls().size(), 1u);
     expectQuestion(dialogs.calls()[0], QStringLiteral("レコードを新規作成しますか？"));
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey = 2")), 0);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey = 2")), 0);
 
     dialogs.clear();
     list->CurrentMainKey = 1;
@@ -103,7 +98,7 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
     dialogs.clear();
     ListCommands::Mnu_AddNew(*list);
     EXPECT_EQ(errorBoxes(), std::vector<long>{6});
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 4);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 4);
 }
 
 TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLines)
@@ -148,7 +143,7 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     dialogs.answerMessage(ui::vbNo);
     ListCommands::Mnu_Delete(*list);
     ASSERT_EQ(dialogs.calls().size(), 1u);
-    EXPECT_EQ(count(tables[0], QStringLiteral("\"Key\" = 3")), 2);
+    EXPECT_EQ(ledger.count(tables[0], QStringLiteral("\"Key\" = 3")), 2);
 
     dialogs.clear();
     select(3);
@@ -157,8 +152,8 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     expectQuestion(dialogs.calls()[0], QStringLiteral("削除しますか？"));
     expectNotice(dialogs.calls()[1], report);
     for (size_t i = 0; i < std::size(tables); ++i) {
-        EXPECT_EQ(count(tables[i], keyColumns[i] + QStringLiteral(" = 3")), 0) << tables[i].toStdString();
-        EXPECT_GE(count(tables[i], keyColumns[i] + QStringLiteral(" = 5")), 1) << tables[i].toStdString();
+        EXPECT_EQ(ledger.count(tables[i], keyColumns[i] + QStringLiteral(" = 3")), 0) << tables[i].toStdString();
+        EXPECT_GE(ledger.count(tables[i], keyColumns[i] + QStringLiteral(" = 5")), 1) << tables[i].toStdString();
     }
     EXPECT_EQ(listedKeys(), (QStringList{"5", "8"}));
     EXPECT_EQ(list->CurrentMainKey, 0);
@@ -171,7 +166,7 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     ListCommands::Mnu_Delete(*list);
     ASSERT_EQ(dialogs.messageTexts().size(), 2);
     EXPECT_EQ(dialogs.messageTexts()[1], report);
-    EXPECT_EQ(count(QStringLiteral("tbl_Pclist"), QStringLiteral("MainKey = 8")), 0);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Pclist"), QStringLiteral("MainKey = 8")), 0);
 
     // after the last listed computer is gone the list is not ready: no new record until a fill
     // finds rows again
@@ -182,7 +177,7 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     dialogs.clear();
     ListCommands::Mnu_AddNew(*list);
     EXPECT_TRUE(dialogs.calls().empty());
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 1);   // computer 0
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 1);   // computer 0
 }
 
 TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheRemovedView)
@@ -228,7 +223,7 @@ TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheR
     EXPECT_EQ(dialogs.calls()[1].prompt, QStringLiteral("撤去日を入力してください(例2005/12/04) "));
     EXPECT_EQ(dialogs.calls()[1].title, QStringLiteral("撤去処理"));
     EXPECT_EQ(ledger.rows(stored), QStringList{QStringLiteral("1|2005/12/04")});
-    EXPECT_EQ(count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 4")), 1);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 4")), 1);
     EXPECT_EQ(listedKeys(), QStringList{"6"});
     EXPECT_EQ(list->CurrentMainKey, 0);
     EXPECT_EQ(menus, (Menus{{MainList::Mnu_ReplacePC, false}}));

@@ -156,7 +156,7 @@ TEST_F(FrmInport, AFileReviewedOntoAComputerLeavesItAsTheBulkReadWouldSaveTheRow
               (std::map<QString, QString>{{"Location_Code", "0|1"}, {"Update", "2005/12/04 10：30：15|2006/01/15 09：05：00"}}));
     // the row-wise data replaced by the staged file's
     EXPECT_EQ(rowWise(2), rowWise(1));
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_ApplicationsList WHERE \"Key\" = 2")), QStringLiteral("5"));
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 2")), 5);
     // the grid is not read again: column 3 shows the old values until the computer is chosen again
     EXPECT_EQ(grid.TextMatrix(1, 3), QStringLiteral("SALES-PC07"));
 }
@@ -188,7 +188,7 @@ TEST_F(FrmInport, AnEnglishFileFillsOnlyTheRowsWhoseKeywordsAgreeAndTheOverwrite
     frm_Inport& w = open();
     choose(w, 0);
     openFile(w, QStringLiteral("en_pc02.csv"));
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_ReadCsv")), QStringLiteral("97")) << "staged";
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97) << "staged";
     ui::FlexGrid& grid = *w.MSFlexGrid1;
     EXPECT_EQ(grid.TextMatrix(1, 4), QString()) << "Computer name is no Japanese keyword";
     EXPECT_EQ(grid.TextMatrix(7, 4), QString());
@@ -214,8 +214,7 @@ TEST_F(FrmInport, TheGuardsOfTheWindow)
     read(QStringLiteral("ja_pc01.csv"));
     read(QStringLiteral("ja_pc01.csv"));
     ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = 'A-NAME-OF-EIGHTEEN' WHERE MainKey = 2"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Deleted_Flug) VALUES (3, 0, 0, 0)"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (3, 'ZZ')"));
+    ledger.computer(3, 0, 0, QStringLiteral("Computer_Name = 'ZZ'"));
     frm_Inport& w = open();
     // the names in order; the one of eighteen characters cannot be filled to 17 and ends the list
     EXPECT_EQ(w.List_ComuputerName->count(), 0);

@@ -53,10 +53,6 @@ protected:
         app::SetPath(QString());
     }
     QStringList staging() { return ledger.rows(QStringLiteral("SELECT * FROM tbl_ReadCsv ORDER BY rowid")); }
-    int count(const QString& table, const QString& where = QStringLiteral("1"))
-    {
-        return ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
-    }
 
     TempLedger ledger;
     ScriptedDialogs dialogs;

@@ -106,7 +106,7 @@ TEST_F(InventoryRead, AJapaneseFileBecomesOneComputerWithAllItsRows)
                            QStringLiteral("1|2005/12/04|Path|C：￥WINDOWS￥system32；C：￥WINDOWS|NULL"),
                            QStringLiteral("1|2005/12/04|OS|Windows_NT|NULL")}));
     // the file stays staged after the read
-    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 107);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 107);
 }
 
 TEST_F(InventoryRead, TheEnglishReaderTakesTheEnglishKeywordsAndTheWindowsDate)
@@ -123,7 +123,7 @@ TEST_F(InventoryRead, TheEnglishReaderTakesTheEnglishKeywordsAndTheWindowsDate)
                {"Gateway", "10.1.0.1"}, {"Internet_Connection", "1"}, {"PROXY_Connection", "1"}, {"RASInstalled", "0"}});
     ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1,
               {{"Update", "2006/01/15 09：05：00"}, {"Type_Number", "OptiPlex GX270"}, {"Sereals_Number", "7DK2Q1J"}});
-    EXPECT_EQ(count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 1")), 2);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 1")), 2);
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT PrinterPorts_Name FROM tbl_Printer_Management")), QStringLiteral("￥￥print01￥sales-lj"));
 }
 
@@ -151,7 +151,7 @@ TEST_F(InventoryRead, AnEnglishFileReadInJapaneseFillsOnlyTheLanguageFreeRows)
                {"SecondaryWINS", "10.1.0.7"}, {"Start_Page", "http：//intranet.example.com/"}});
     ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, {{"Update", ""}, {"Type_Number", "OptiPlex GX270"}});
     // the row-wise sections do not depend on the language
-    EXPECT_EQ(count(QStringLiteral("tbl_Device_Management"), QStringLiteral("\"Key\" = 1")), 2);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Device_Management"), QStringLiteral("\"Key\" = 1")), 2);
 }
 
 TEST_F(InventoryRead, TheSameFileTwiceMakesTwoComputersWithConsecutiveKeys)
@@ -166,7 +166,7 @@ TEST_F(InventoryRead, TheSameFileTwiceMakesTwoComputersWithConsecutiveKeys)
         ExpectRow(ledger, QStringLiteral("tbl_Pclist"), key, JaPc01Pclist());
         EXPECT_EQ(applications(key).size(), 5);
     }
-    EXPECT_EQ(count(QStringLiteral("tbl_Environmental")), 9);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Environmental")), 9);
 }
 
 TEST_F(InventoryRead, RefusedFilesAreSkippedAndAnUnreadableOneReusesTheStagedFile)
@@ -187,7 +187,7 @@ TEST_F(InventoryRead, RefusedFilesAreSkippedAndAnUnreadableOneReusesTheStagedFil
     // staged file; the header-only file a computer of empty values
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey FROM tbl_Computer_List ORDER BY MainKey")),
               (QStringList{"0", "1", "2", "3"}));
-    EXPECT_EQ(count(QStringLiteral("tbl_Pclist"), QStringLiteral("Computer_Name LIKE 'PC-KEIRI%'")), 0);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Pclist"), QStringLiteral("Computer_Name LIKE 'PC-KEIRI%'")), 0);
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2, JaPc01Pclist());
     EXPECT_EQ(applications(2).size(), 5);
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 3,
@@ -195,7 +195,7 @@ TEST_F(InventoryRead, RefusedFilesAreSkippedAndAnUnreadableOneReusesTheStagedFil
                {"Internet_Connection", "0"}, {"Update", ""}});
     ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 3, {{"Location_Code", "0"}, {"Asset_Code", "0"}, {"Type_Number", ""}});
     EXPECT_EQ(applications(3).size(), 0);
-    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 0);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 0);
 }
 
 TEST_F(InventoryRead, ARefusedStatementIsDroppedAloneAndTheRestOfTheFileGoesIn)
@@ -231,7 +231,7 @@ TEST_F(InventoryRead, WhereATriggerRunsOnStagingEachFileIsStagedAsItIsRead)
     // the trigger runs for each row that the next file's staging deletes
     const size_t english = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")))->size();
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT n FROM staged")), QString::number(107 + english));
-    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 107);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 107);
 }
 
 TEST_F(InventoryRead, WhereATriggerRunsTheFieldsAreWrittenOneStatementAfterAnother)
@@ -312,7 +312,7 @@ TEST_F(InventoryRead, PastTheLastKeyTheKeyStaysWhatItWas)
     // the addition fails: no new computer, and the file's values land on the last one
     EXPECT_TRUE(results[1].keyOverflow);
     EXPECT_EQ(results[1].mainKey, 32767);
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List")), 3);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List")), 3);
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 32767, {{"Computer_Name", "PC-SOUMU-01"}});
     EXPECT_EQ(applications(32767).size(), 5);
 }

@@ -10,10 +10,6 @@ namespace {
 
 class ReadCommand : public ::testing::Test {
 protected:
-    int count(const QString& table, const QString& where = QStringLiteral("1"))
-    {
-        return ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
-    }
     TempLedger ledger;
 };
 
@@ -34,29 +30,12 @@ TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
     EXPECT_EQ(r.out, (QStringList{en + QStringLiteral(": MainKey 3"), QStringLiteral("1 of 1 files read, 0 refused")}));
     EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
 
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, Asset_Code, "
-                                         "Type_Number, Sereals_Number, \"Update\", Deleted_Flug FROM tbl_Computer_List ORDER BY MainKey")),
-              (QStringList{QStringLiteral("0|0|0|0|0|NULL|NULL|NULL|NULL|NULL"),
-                           QStringLiteral("1|0|0|0|0|0|PC-MY26XEZ7|5X0123456|2005/12/04 10：30：15|0"),
-                           QStringLiteral("2|0|0|0|0|0|PC-MY26XEZ7|5X0123456|2005/12/04 10：30：15|0"),
-                           QStringLiteral("3|0|0|0|0|0|OptiPlex GX270|7DK2Q1J|2006/01/15 09：05：00|0")}));
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Computer_Name, MacAddress, Memory_Used, CPU_Clock, CPU_MCA, Start_Page "
-                                         "FROM tbl_Pclist ORDER BY MainKey")),
-              (QStringList{QStringLiteral("0|NULL|NULL|NULL|NULL|NULL|NULL"),
-                           QStringLiteral("1|PC-SOUMU-01|00：0C：29：3A：5B：7C|301284|3|0|http：//www.example.co.jp/"),
-                           QStringLiteral("2|PC-SOUMU-01|00：0C：29：3A：5B：7C|301284|3|0|http：//www.example.co.jp/"),
-                           QStringLiteral("3|SALES-PC07|00-06-5B-12-34-56|180332|2794|1|http：//intranet.example.com/")}));
-    const QStringList perComputer = {QStringLiteral("tbl_ApplicationsList"), QStringLiteral("tbl_Device_Management"),
-                                     QStringLiteral("tbl_Printer_Management"), QStringLiteral("tbl_Environmental")};
-    const std::vector<std::array<int, 3>> rowsPerKey = {{5, 5, 2}, {3, 3, 2}, {2, 2, 1}, {3, 3, 2}};
-    for (qsizetype t = 0; t < perComputer.size(); ++t)
-        for (int key = 1; key <= 3; ++key)
-            EXPECT_EQ(count(perComputer[t], QStringLiteral("\"Key\" = %1").arg(key)), rowsPerKey[size_t(t)][size_t(key - 1)])
-                << perComputer[t].toStdString() << " key " << key;
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Application_Name FROM tbl_ApplicationsList WHERE \"Key\" = 2 AND Application_Version = '1.2'")),
-              QStringLiteral("Tom’s Mail Checker"));
+    // what each file makes is the read's own business (InventoryRead): here, that the command
+    // reads each in its language
+    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey, Computer_Name, CPU_MCA FROM tbl_Pclist WHERE MainKey > 0 ORDER BY MainKey")),
+              (QStringList{"1|PC-SOUMU-01|0", "2|PC-SOUMU-01|0", "3|SALES-PC07|1"}));
     // staging holds the last accepted file
-    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 97);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97);
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Contents FROM tbl_ReadCsv WHERE SubItem = 'Computer name'")), QStringLiteral("SALES-PC07"));
 }
 
@@ -83,9 +62,7 @@ TEST_F(ReadCommand, OpensALedgerOfAnyNameOrTheOneBesideTheProgram)
     EXPECT_EQ(r.out.value(0), ja + QStringLiteral(": MainKey 1"));
 
     // without --ledger: pcdb.mdb in the program's folder
-    const QString program = folder.file(QStringLiteral("fenwold-admin"));
-    ASSERT_TRUE(QFile::copy(QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin"), program));
-    QFile::setPermissions(program, QFile::permissions(program) | QFile::ExeOwner);
+    const QString program = AdminBeside(folder);
     r = Admin({QStringLiteral("read"), ja}, program);
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("no ledger at ") + folder.path() + QStringLiteral("/pcdb.mdb"))) << r.err.toStdString();
@@ -117,7 +94,7 @@ TEST_F(ReadCommand, UsageAndLedgerErrorsEndWithStatusOneAndChangeNothing)
         EXPECT_TRUE(r.out.isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
         EXPECT_FALSE(r.err.isEmpty()) << args.join(QLatin1Char(' ')).toStdString();
     }
-    EXPECT_EQ(count(QStringLiteral("tbl_Computer_List")), 1);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List")), 1);
     EXPECT_EQ(folder.read(QStringLiteral("pcdb.mdb")), QByteArray(4096, 'x'));
 }
 

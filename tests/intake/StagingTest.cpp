@@ -72,7 +72,7 @@ TEST_F(Staging, SplitsEachLineWithoutQuotingAndCutsNothingButLongFields)
 TEST_F(Staging, AQuoteInAValueReachesStagingUnharmed)
 {
     ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc01.csv"))));
-    EXPECT_EQ(count(QStringLiteral("tbl_ReadCsv")), 107);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 107);
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT SubItem FROM tbl_ReadCsv WHERE \"Key\" = '97'")), QStringLiteral("Tom's Mail Checker"));
     // a comma inside Contents shifts the later fields of that line
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Contents, Unit, Renewalday FROM tbl_ReadCsv WHERE \"Key\" = '25'")),

@@ -18,10 +18,10 @@ protected:
     void SetUp() override
     {
         LicencesFixture::SetUp();
-        master("tbl_Location", 1, QStringLiteral("本館1F"));
-        master("tbl_Location", 2, QStringLiteral("別館"), "1");
-        user(1, QStringLiteral("山田"));
-        user(2, QStringLiteral("佐藤"), "1");
+        ledger.master("tbl_Location", 1, QStringLiteral("本館1F"));
+        ledger.master("tbl_Location", 2, QStringLiteral("別館"), "1");
+        ledger.user(1, QStringLiteral("山田"));
+        ledger.user(2, QStringLiteral("佐藤"), "1");
         computer(1, QStringLiteral("PC-SOUMU-01"), 1, 1);
         computer(2, QStringLiteral("PC-EIGYO-02"), 2, 2);
         computer(3, QStringLiteral("PC-OLD-03"), 1, 1, 1);

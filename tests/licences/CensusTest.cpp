@@ -8,7 +8,6 @@
 #include "support/TempDir.h"
 
 #include <QAction>
-#include <QFile>
 #include <QLineEdit>
 
 namespace {
@@ -40,18 +39,17 @@ protected:
     {
         dialogs.answerFile(out.file(QStringLiteral("apps")));
         w.Mnu_Export_CSV->trigger();
-        QFile f(out.file(QStringLiteral("apps.csv")));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("(no file)");
+        return FileBytes(out.file(QStringLiteral("apps.csv")));
     }
     TempDir out;
 };
 
 TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
 {
-    master("tbl_Location", 1, QStringLiteral("本館1F"));
-    master("tbl_Location", 2, QStringLiteral("別館"));
-    master("tbl_Location", 3, QStringLiteral("倉庫"));
-    user(1, QStringLiteral("佐藤"), "1");
+    ledger.master("tbl_Location", 1, QStringLiteral("本館1F"));
+    ledger.master("tbl_Location", 2, QStringLiteral("別館"));
+    ledger.master("tbl_Location", 3, QStringLiteral("倉庫"));
+    ledger.user(1, QStringLiteral("佐藤"), "1");
     computer(1, QStringLiteral("PC-A"), 1);
     computer(2, QStringLiteral("PC-B"), 2, 1);
     computer(3, QStringLiteral("PC-C"), 1, 0, 1);

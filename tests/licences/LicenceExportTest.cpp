@@ -15,19 +15,9 @@
 
 namespace {
 
-QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    if (!f.open(QIODevice::ReadOnly)) {
-        ADD_FAILURE() << "no file " << path.toStdString();
-        return {};
-    }
-    return f.readAll();
-}
-
 QByteArray expected(const char* name)
 {
-    return fileBytes(QStringLiteral(FENWOLD_TEST_DATA_DIR "/licences/") + QLatin1String(name));
+    return ReadTestData(QStringLiteral("licences/") + QLatin1String(name));
 }
 
 class LicenceExport : public LicencesFixture {
@@ -47,13 +37,12 @@ protected:
                 args << (a.startsWith(u'-') ? a : inventory + a);
             ASSERT_EQ(Admin(args).exitCode, 0);
         }
-        master("tbl_Location", 1, QStringLiteral("本館2F"), "1");
-        master("tbl_Location", 2, QStringLiteral("本館1F"));
-        master("tbl_Location", 3, QStringLiteral("倉庫"));
-        master("tbl_Section", 1, QStringLiteral("総務部"));
-        master("tbl_Division", 1, QStringLiteral("庶務課"), "1");
-        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                                   "VALUES (1, '山田 太郎', '0', 1, 1)"));
+        ledger.master("tbl_Location", 1, QStringLiteral("本館2F"), "1");
+        ledger.master("tbl_Location", 2, QStringLiteral("本館1F"));
+        ledger.master("tbl_Location", 3, QStringLiteral("倉庫"));
+        ledger.master("tbl_Section", 1, QStringLiteral("総務部"));
+        ledger.master("tbl_Division", 1, QStringLiteral("庶務課"), "1");
+        ledger.user(1, QStringLiteral("山田 太郎"), QStringLiteral("0"), 1, 1);
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 1 WHERE MainKey IN (1, 4)"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 2 WHERE MainKey IN (2, 3)"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET User_Code = 1 WHERE MainKey = 1"));
@@ -82,7 +71,7 @@ protected:
         args << QStringLiteral("--ledger") << ledger.path() << out.file(outName);
         return Admin(args);
     }
-    QByteArray written(const QString& outName) { return fileBytes(out.file(outName)); }
+    QByteArray written(const QString& outName) { return FileBytes(out.file(outName)); }
 
     TempDir out;
 };

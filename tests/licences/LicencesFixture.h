@@ -7,7 +7,7 @@
 #include "support/WindowTest.h"
 
 // The windows' fixture with a fixed day (the day an assignment is written) and short helpers that
-// put master rows, computers, inventory rows and licences into the ledger in plain SQL.
+// put computers, inventory rows and licences into the ledger in plain SQL.
 class LicencesFixture : public WindowTest {
 protected:
     void SetUp() override
@@ -21,28 +21,10 @@ protected:
         app::SetNow({});
     }
 
-    // A row of a master table with code, name, comment and flag ("1": deleted).
-    void master(const char* table, int code, const QString& name, const char* flag = "0")
-    {
-        ledger.exec(QStringLiteral("INSERT INTO %1 VALUES (%2, '%3', '', '%4')").arg(QLatin1String(table)).arg(code).arg(name, QLatin1String(flag)));
-    }
-    void user(int code, const QString& name, const char* flag = "0")
-    {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                                   "VALUES (%1, '%2', '%3', 0, 0)")
-                        .arg(code)
-                        .arg(name, QLatin1String(flag)));
-    }
     // A computer with its two rows, on the code-0 maker and model.
     void computer(int key, const QString& name, int location = 0, int user = 0, int deleted = 0)
     {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
-                                   "Deleted_Flug) VALUES (%1, %2, %3, 0, 0, %4)")
-                        .arg(key)
-                        .arg(location)
-                        .arg(user)
-                        .arg(deleted));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (%1, '%2')").arg(key).arg(name));
+        ledger.computer(key, deleted, user, QStringLiteral("Computer_Name = '%1'").arg(name), QStringLiteral("Location_Code = %1").arg(location));
     }
     // An application row of a computer's inventory; name and version are SQL literals.
     void installed(int computer, const QString& name, const QString& version = QStringLiteral("NULL"))

@@ -30,7 +30,7 @@ protected:
         return Admin(QStringList{QStringLiteral("export"), QString::fromUtf8(form.list), QStringLiteral("--ledger"), ledger.path()}
                      + options + QStringList{target});
     }
-    QByteArray fileBytes(const QString& name) const { return QFile::exists(out.file(name)) ? out.read(name) : QByteArray("(no file)"); }
+    QByteArray fileBytes(const QString& name) const { return FileBytes(out.file(name)); }
 
     TempDir out;
 };

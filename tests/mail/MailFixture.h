@@ -21,9 +21,11 @@ protected:
             "INSERT INTO tbl_User (User_Code, User_Name, kana, Available_flug, Section_Code, Division_Code) VALUES "
             "(1, '山田 太郎', 'やまだ たろう', '0', 1, 1), (2, '佐藤 花子', 'さとう はなこ', '0', 2, 2), "
             "(3, '高橋 誠', 'たかはし まこと', '1', 1, 1), (4, '鈴木 一郎', 'すずき いちろう', '0', 9, 1)"));
-        computer(1, 1, 0, QStringLiteral("'PC-SOUMU-01', '192.168.0.10', 'Windows XP'"));
-        computer(2, 2, 0, QStringLiteral("'SALES-PC07', '10.1.20.107', 'Windows 2000'"));
-        computer(3, 3, 1, QStringLiteral("'PC-OLD', NULL, NULL"));
+        ledger.computer(1, 0, 0, "Computer_Name = 'PC-SOUMU-01', ipaddress = '192.168.0.10', Operating_System = 'Windows XP'",
+                        "Location_Code = 1");
+        ledger.computer(2, 0, 0, "Computer_Name = 'SALES-PC07', ipaddress = '10.1.20.107', Operating_System = 'Windows 2000'",
+                        "Location_Code = 2");
+        ledger.computer(3, 1, 0, "Computer_Name = 'PC-OLD'", "Location_Code = 3");
         ledger.exec(QStringLiteral(
             "INSERT INTO tbl_Mail_Management (\"Key\", User_Code, Conputer_Code, beat_loginID, Windows_UserName, "
             "beat_loginPassward, Mail_Address, SMTP_IPAddress, POP3_IPAddress, Mailbox_AccountName, Mailbox_Password) VALUES "
@@ -34,18 +36,6 @@ protected:
             "(3, 4, 1, 'suzuki01', 'suzuki', 'ichi99', 'suzuki@example.jp', NULL, NULL, NULL, NULL), "
             "(4, 1, 7, 'yamada02', 'yamada', 'yt2004', 'yamada2@example.jp', NULL, NULL, NULL, NULL), "
             "(5, 2, 3, 'sato02', 'sato-h', '', 'sato2@example.jp', NULL, NULL, NULL, NULL)"));
-    }
-    // A computer with its two rows: name, address and OS as the values of an INSERT.
-    void computer(int key, int location, int retired, const QString& nameAddressOs)
-    {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
-                                   "Model_Code, Deleted_Flug) VALUES (%1, %2, 0, 0, 0, %3)")
-                        .arg(key)
-                        .arg(location)
-                        .arg(retired));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name, ipaddress, Operating_System) VALUES (%1, %2)")
-                        .arg(key)
-                        .arg(nameAddressOs));
     }
     frm_Edit_Mail& open()
     {

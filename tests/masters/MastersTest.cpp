@@ -142,16 +142,12 @@ TEST_F(Masters, NoCodeFollows32767AndAWiderCodeOverflowsWhereItIsRead)
 TEST_F(Masters, SoftDeletedMastersShowGrayInTheMainList)
 {
     for (const char* table : {"tbl_Location", "tbl_Section", "tbl_Division", "tbl_Manufacturer", "tbl_Model"})
-        ledger.exec(QStringLiteral("INSERT INTO %1 VALUES (1, '一', '', '0')").arg(QLatin1String(table)));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                               "VALUES (1, '山田', '0', 1, 1)"));
+        ledger.master(QLatin1String(table), 1, QStringLiteral("一"));
+    ledger.user(1, QStringLiteral("山田"), QStringLiteral("0"), 1, 1);
     for (int key = 1; key <= 3; ++key) {
         const int code = key == 1 ? 0 : 1;
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
-                                   "Model_Code, Deleted_Flug) VALUES (%1, %2, %2, %2, %2, 0)")
-                        .arg(key)
-                        .arg(code));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) VALUES (%1, 'PC%1')").arg(key));
+        ledger.computer(key, 0, code, QStringLiteral("Computer_Name = 'PC%1'").arg(key),
+                        QStringLiteral("Location_Code = %1, Manufacturer_Code = %1, Model_Code = %1").arg(code));
     }
     for (const char* table : {"tbl_Location", "tbl_Section", "tbl_Division", "tbl_Manufacturer", "tbl_Model"})
         deleteFirstRow(QLatin1String(table));
@@ -222,9 +218,10 @@ TEST_F(Masters, TheUserRegisterAddsWithTheReservedSectionAndStoresABlankForAnEmp
 
 TEST_F(Masters, ARemovedSectionLeavesItsUsersListedGrayAndADeletedUserLeaves)
 {
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0')"));
-    ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                               "VALUES (1, '山田', '0', 1, 0), (2, '佐藤', '0', 1, 0), (3, '鈴木', '0', 9, 0)"));
+    ledger.master(QStringLiteral("tbl_Section"), 1, QStringLiteral("総務部"));
+    ledger.user(1, QStringLiteral("山田"), QStringLiteral("0"), 1);
+    ledger.user(2, QStringLiteral("佐藤"), QStringLiteral("0"), 1);
+    ledger.user(3, QStringLiteral("鈴木"), QStringLiteral("0"), 9);
     Mdl_gData::g.MainFormWidth = 12000;
     Mdl_gData::g.MainFormHeight = 9000;
     frm_Edit_User& w = frm_Edit_User::Instance();

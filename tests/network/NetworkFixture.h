@@ -4,8 +4,6 @@
 
 #include "platform/ui/Twips.h"
 
-#include <QFile>
-
 // A ledger with the computers and devices of a small office, for the network device window, the
 // printer list and their exports. Set up through plain SQL, as the intake and the profile leave
 // the rows.
@@ -26,11 +24,10 @@ protected:
     // one whose user has no row.
     void addComputers()
     {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (1, '本社1F', '', '0')"));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug, Section_Code, Division_Code) "
-                                   "VALUES (1, '山田 太郎', '0', 0, 0)"));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Manufacturer VALUES (1, 'NEC', '', '0')"));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Model VALUES (1, 'Mate MY26X', '', '0')"));
+        ledger.master(QStringLiteral("tbl_Location"), 1, QStringLiteral("本社1F"));
+        ledger.user(1, QStringLiteral("山田 太郎"));
+        ledger.master(QStringLiteral("tbl_Manufacturer"), 1, QStringLiteral("NEC"));
+        ledger.master(QStringLiteral("tbl_Model"), 1, QStringLiteral("Mate MY26X"));
         computer(1, 1, 1, QStringLiteral("'PC-SOUMU-01', 'WORKGROUP', '192.168.0.10', 'C0A8000A', '00:0C:29:3A:5B:7C'"),
                  QStringLiteral("'PC-MY26XEZ7', '5X0123456'"));
         computer(2, 0, 0, QStringLiteral("'PC-EIGYO-02', 'EIGYO', '192.168.0.9', 'C0A80009', ''"), QStringLiteral("Null, Null"));
@@ -68,16 +65,6 @@ protected:
                                    "MacAddress) VALUES (%1, %2)")
                         .arg(key)
                         .arg(pc));
-    }
-
-    static QByteArray fileBytes(const QString& path)
-    {
-        QFile f(path);
-        if (!f.open(QIODevice::ReadOnly)) {
-            ADD_FAILURE() << "no file " << path.toStdString();
-            return {};
-        }
-        return f.readAll();
     }
 
     // What the rebuild leaves, row by row in the order of its keys.

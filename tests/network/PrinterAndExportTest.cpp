@@ -73,10 +73,10 @@ TEST_F(PrinterAndExport, ThePrinterListIsOneColumnPerPortWithTheComputersUnderIt
     EXPECT_EQ(dialogs.messageTexts(), QStringList{"完了しました"});
     ASSERT_EQ(dialogs.calls().front().file.title, QStringLiteral("CSV書き出し"));
     const QByteArray expected = ReadTestData(QStringLiteral("network/printers.csv"));
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("printers.csv"))), expected);
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("printers.csv"))), expected);
     const AdminRun r = exportList({QStringLiteral("printers")}, out.file(QStringLiteral("by-command")));
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("by-command"))), expected);
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("by-command"))), expected);
 
     // "一覧更新" reads the printers again: a computer retired since is gone with its column
     ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1 WHERE MainKey = 3"));
@@ -95,7 +95,7 @@ TEST_F(PrinterAndExport, WithoutPrintersTheGridStaysEmptyAndTheExportIsAnEmptyFi
     const AdminRun r = exportList({QStringLiteral("printers")}, out.file(QStringLiteral("none.csv")));
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_TRUE(QFileInfo::exists(out.file(QStringLiteral("none.csv"))));
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("none.csv"))), QByteArray());
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("none.csv"))), QByteArray());
 }
 
 TEST_F(PrinterAndExport, TheNetworkExportWritesTheAddressListAsTheWindowDoesNeverTheLogins)
@@ -109,25 +109,25 @@ TEST_F(PrinterAndExport, TheNetworkExportWritesTheAddressListAsTheWindowDoesNeve
     // as the list stands the command writes it: empty until a rebuild
     AdminRun r = exportList({QStringLiteral("network")}, out.file(QStringLiteral("stale")));
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("stale"))), QByteArray());
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("stale"))), QByteArray());
     r = exportList({QStringLiteral("network"), QStringLiteral("--rebuild")}, out.file(QStringLiteral("rebuilt")));
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("rebuilt"))), expected);
-    EXPECT_FALSE(fileBytes(out.file(QStringLiteral("rebuilt"))).contains("secret"));
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("rebuilt"))), expected);
+    EXPECT_FALSE(FileBytes(out.file(QStringLiteral("rebuilt"))).contains("secret"));
 
     // the window over the list the command rebuilt, its export with ".csv" added
     frm_Edit_Network& w = frm_Edit_Network::Instance();
     w.Show(ui::vbModeless);
     dialogs.answerFile(out.file(QStringLiteral("window.csv")));
     w.Export_CSV->trigger();
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("window.csv.csv"))), expected);
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("window.csv.csv"))), expected);
     EXPECT_EQ(dialogs.messageTexts(), QStringList{"完了しました"});
 
     // the stale list written again after a device is added: the command does not rebuild
     // without being told
     ledger.exec(QStringLiteral("INSERT INTO tbl_NetworkUnit (Key, Computer_Name) VALUES (9, 'NEW')"));
     r = exportList({QStringLiteral("network")}, out.file(QStringLiteral("again")));
-    EXPECT_EQ(fileBytes(out.file(QStringLiteral("again"))), expected);
+    EXPECT_EQ(FileBytes(out.file(QStringLiteral("again"))), expected);
 }
 
 TEST_F(PrinterAndExport, ARebuildThatCannotBeWrittenSaysSoAndKeepsThePreviousList)

@@ -11,7 +11,6 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QStandardPaths>
 
 namespace {
@@ -144,14 +143,8 @@ TEST_F(ProfileSheet, ACancelledDialogDrawsNothingAndTheFixedPartNeverBreaks)
     EXPECT_EQ(lines[firstBreak + 5], QStringLiteral("3 □ Microsoft Office Professional Edition 2003 (11.0.5614.0)"));
 }
 
-// Runs one of poppler's tools on a file; its standard output.
-QString poppler(const QString& tool, const QStringList& args)
-{
-    QProcess p;
-    p.start(tool, args);
-    p.waitForFinished(30000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
+// Runs one of poppler's tools on a file; its standard output, blank lines left out.
+QString poppler(const QString& tool, const QStringList& args) { return RunProcess(tool, args).out.join(u'\n'); }
 
 TEST_F(ProfileSheet, TheCompanionProgramWritesTheSheetsIntoOnePdfWithItsFontEmbedded)
 {

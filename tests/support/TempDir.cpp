@@ -27,6 +27,12 @@ QByteArray TempDir::read(const QString& name) const
     return f.readAll();
 }
 
+QByteArray FileBytes(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArrayLiteral("(no file)");
+}
+
 QString TestDataPath(const QString& relative)
 {
     return QStringLiteral(FENWOLD_TEST_DATA_DIR "/") + relative;

@@ -19,6 +19,9 @@ private:
     QTemporaryDir m_dir;
 };
 
+// The bytes of a file; "(no file)" when there is none, which no expected content equals.
+QByteArray FileBytes(const QString& path);
+
 // Test data under tests/data.
 QString TestDataPath(const QString& relative);
 QByteArray ReadTestData(const QString& relative);

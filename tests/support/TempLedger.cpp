@@ -82,6 +82,11 @@ QString TempLedger::value(const QString& sql)
     return r.first().section(QLatin1Char('|'), 0, 0);
 }
 
+int TempLedger::count(const QString& table, const QString& where)
+{
+    return value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();
+}
+
 void TempLedger::computer(int key, int deleted, int userCode, const QString& pclist, const QString& computerList)
 {
     exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "

@@ -32,6 +32,8 @@ public:
     QStringList rows(const QString& sql);
     // The first value of the first row as text ("NULL" for Null, "" when there is no row).
     QString value(const QString& sql);
+    // The rows of a table that meet an SQLite condition.
+    int count(const QString& table, const QString& where = QStringLiteral("1"));
     // A row of a master table with code, name, comment and flag ("1": retired).
     void master(const QString& table, int code, const QString& name, const QString& flag = QStringLiteral("0"));
     void user(int code, const QString& name, const QString& flag = QStringLiteral("0"), int section = 0, int division = 0);

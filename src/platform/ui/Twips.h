@@ -15,6 +15,10 @@ int TwipsPerPixel();
 
 // QBColor(0..15); an index outside raises error 5, as VB did.
 QColor QBColor(int index);
+// The QBColor indices the windows paint with: black, gray (128, 128, 128) and bright white.
+inline constexpr int qbBlack = 0;
+inline constexpr int qbGray = 8;
+inline constexpr int qbWhite = 15;
 
 // VB's RGB function: the colour of the three components.
 inline QColor RGB(int r, int g, int b) { return QColor(r, g, b); }
