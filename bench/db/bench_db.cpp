@@ -26,10 +26,7 @@ double runOnce(db::Connection& c, bool oneTransaction, int run)
         c.BeginTrans();
     for (int i = 0; i < kUpdates; ++i) {
         const int key = 1 + (i % kComputers);
-        c.Execute(QStringLiteral("UPDATE tbl_Pclist SET tbl_Pclist.[Workgroup] = 'WG%1-%2' WHERE MainKey = %3")
-                      .arg(run)
-                      .arg(i)
-                      .arg(key));
+        c.Execute(QStringLiteral("UPDATE tbl_Pclist SET tbl_Pclist.[Workgroup] = 'WG%1-%2' WHERE MainKey = %3").arg(run).arg(i).arg(key));
     }
     if (oneTransaction)
         c.CommitTrans();
@@ -68,8 +65,8 @@ int main(int argc, char** argv)
         for (int run = 0; run < kRuns; ++run)
             times.push_back(runOnce(c, tx, run));
         const double ms = median(times);
-        std::printf("%-26s %8.1f ms  (%5.1f us per statement, median of %d)\n",
-                    tx ? "one transaction:" : "autocommit:", ms, ms * 1000.0 / kUpdates, kRuns);
+        std::printf("%-26s %8.1f ms  (%5.1f us per statement, median of %d)\n", tx ? "one transaction:" : "autocommit:", ms,
+                    ms * 1000.0 / kUpdates, kRuns);
     }
     return 0;
 }

@@ -29,10 +29,7 @@ struct Stmt {
     ~Stmt() { sqlite3_finalize(h); }
 };
 
-void bindText(sqlite3_stmt* s, int at, const QString& v)
-{
-    sqlite3_bind_text16(s, at, v.utf16(), int(v.size() * 2), SQLITE_TRANSIENT);
-}
+void bindText(sqlite3_stmt* s, int at, const QString& v) { sqlite3_bind_text16(s, at, v.utf16(), int(v.size() * 2), SQLITE_TRANSIENT); }
 
 // The same split as the staging routine: no quoting, the seventh field takes the rest.
 Record split(QStringView line)
@@ -107,17 +104,24 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files)
         const char* sql;
         const char* table;
     } perComputer[] = {
-        {"INSERT INTO tbl_ApplicationsList (\"Update\", Application_Name, Application_Version, Application_Path, \"Key\") VALUES (?, ?, ?, ?, ?)", "Application"},
-        {"INSERT INTO tbl_Device_Management (\"Update\", Device_Category, Device_Name, Device_Provider, Device_Version, \"Key\") VALUES (?, ?, ?, ?, ?, ?)", "Device"},
+        {"INSERT INTO tbl_ApplicationsList (\"Update\", Application_Name, Application_Version, Application_Path, \"Key\") VALUES (?, ?, ?, "
+         "?, ?)",
+         "Application"},
+        {"INSERT INTO tbl_Device_Management (\"Update\", Device_Category, Device_Name, Device_Provider, Device_Version, \"Key\") VALUES "
+         "(?, ?, ?, ?, "
+         "?, ?)",
+         "Device"},
         {"INSERT INTO tbl_Printer_Management (\"Update\", Printer_Name, PrinterPorts_Name, \"Key\") VALUES (?, ?, ?, ?)", "Printer"},
-        {"INSERT INTO tbl_Environmental (\"Update\", Environmental_Name, Environmental_Path, \"Key\") VALUES (?, ?, ?, ?)", "Environmental"},
+        {"INSERT INTO tbl_Environmental (\"Update\", Environmental_Name, Environmental_Path, \"Key\") VALUES (?, ?, ?, ?)",
+         "Environmental"},
     };
     Stmt computer, pc, rowwise[4];
     const QByteArray pcSql = QStringLiteral("INSERT INTO tbl_Pclist (MainKey%1) VALUES (?%2)").arg(names, marks).toUtf8();
     if (sqlite3_prepare_v2(db.h,
                            "INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, "
                            "Asset_Code, Type_Number, Sereals_Number, \"Update\") VALUES (?, 0, 0, 0, 0, '0', ?, ?, ?)",
-                           -1, &computer.h, nullptr) != SQLITE_OK
+                           -1, &computer.h, nullptr)
+            != SQLITE_OK
         || sqlite3_prepare_v2(db.h, pcSql.constData(), -1, &pc.h, nullptr) != SQLITE_OK)
         return QString::fromUtf8(sqlite3_errmsg(db.h));
     for (int t = 0; t < 4; ++t)
@@ -148,7 +152,7 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files)
             records.push_back(split(line));
         }
         if (!records.empty() && records.back() == Record{})
-            records.pop_back();  // the end of the last line
+            records.pop_back(); // the end of the last line
         ++key;
 
         sqlite3_bind_int(pc.h, 1, key);
@@ -165,7 +169,8 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files)
         sqlite3_reset(pc.h);
 
         const auto value = [&](const InventoryFieldRow* row) {
-            return BulkReadValue(*row, InventoryLanguage::Japanese, lookup(records, row->selection(InventoryLanguage::Japanese, FieldMapPath::BulkRead)));
+            return BulkReadValue(*row, InventoryLanguage::Japanese,
+                                 lookup(records, row->selection(InventoryLanguage::Japanese, FieldMapPath::BulkRead)));
         };
         sqlite3_bind_int(computer.h, 1, key);
         bindText(computer.h, 2, value(typeNumber));
@@ -177,11 +182,13 @@ QString FloorRead(const QString& ledgerPath, const QStringList& files)
         for (const Record& r : records) {
             const QString& group = r[1];
             int t = -1;
-            if (group.compare(QLatin1String("Soft"), Qt::CaseInsensitive) == 0 && r[2].compare(QLatin1String("Application"), Qt::CaseInsensitive) == 0)
+            if (group.compare(QLatin1String("Soft"), Qt::CaseInsensitive) == 0
+                && r[2].compare(QLatin1String("Application"), Qt::CaseInsensitive) == 0)
                 t = 0;
             else if (group.compare(QLatin1String("Device"), Qt::CaseInsensitive) == 0)
                 t = 1;
-            else if (group.compare(QLatin1String("Hard"), Qt::CaseInsensitive) == 0 && r[2].compare(QLatin1String("Printer"), Qt::CaseInsensitive) == 0)
+            else if (group.compare(QLatin1String("Hard"), Qt::CaseInsensitive) == 0
+                     && r[2].compare(QLatin1String("Printer"), Qt::CaseInsensitive) == 0)
                 t = 2;
             else if (group.compare(QLatin1String("Environmental"), Qt::CaseInsensitive) == 0)
                 t = 3;
@@ -211,21 +218,22 @@ QString CopyFloor(const QString& readLedger, const QString& freshLedger)
         return QStringLiteral("cannot open the ledgers");
     sqlite3_exec(to.h, "PRAGMA journal_mode = DELETE; PRAGMA synchronous = FULL", nullptr, nullptr, nullptr);
     sqlite3_exec(to.h, "BEGIN", nullptr, nullptr, nullptr);
-    for (const char* table : {"tbl_Computer_List", "tbl_Pclist", "tbl_ApplicationsList", "tbl_Device_Management",
-                              "tbl_Printer_Management", "tbl_Environmental", "tbl_ReadCsv"}) {
+    for (const char* table : {"tbl_Computer_List", "tbl_Pclist", "tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management",
+                              "tbl_Environmental", "tbl_ReadCsv"}) {
         // the rows a fresh ledger has already (the computer of key 0) stay as they are
         Stmt max;
         sqlite3_prepare_v2(to.h, QByteArray("SELECT coalesce(max(rowid), 0) FROM ").append(table).constData(), -1, &max.h, nullptr);
         sqlite3_step(max.h);
         Stmt read;
-        sqlite3_prepare_v2(from.h, QByteArray("SELECT rowid, * FROM ").append(table).append(" WHERE rowid > ?").constData(), -1,
-                           &read.h, nullptr);
+        sqlite3_prepare_v2(from.h, QByteArray("SELECT rowid, * FROM ").append(table).append(" WHERE rowid > ?").constData(), -1, &read.h,
+                           nullptr);
         sqlite3_bind_int64(read.h, 1, sqlite3_column_int64(max.h, 0));
         const int columns = sqlite3_column_count(read.h);
         QByteArray names = "rowid";
         for (int c = 1; c < columns; ++c)
             names += ", \"" + QByteArray(sqlite3_column_name(read.h, c)) + "\"";
-        const QByteArray insert = "INSERT INTO " + QByteArray(table) + " (" + names + ") VALUES (" + QByteArray("?, ").repeated(columns - 1) + "?)";
+        const QByteArray insert =
+            "INSERT INTO " + QByteArray(table) + " (" + names + ") VALUES (" + QByteArray("?, ").repeated(columns - 1) + "?)";
         Stmt write;
         if (sqlite3_prepare_v2(to.h, insert.constData(), -1, &write.h, nullptr) != SQLITE_OK)
             return QString::fromUtf8(sqlite3_errmsg(to.h));
@@ -248,14 +256,15 @@ QStringList DumpComputers(const QString& ledgerPath)
     QStringList out;
     if (sqlite3_open_v2(QFile::encodeName(ledgerPath).constData(), &db.h, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK)
         return out;
-    for (const char* table : {"tbl_Computer_List", "tbl_Pclist", "tbl_ApplicationsList", "tbl_Device_Management",
-                              "tbl_Printer_Management", "tbl_Environmental"}) {
+    for (const char* table : {"tbl_Computer_List", "tbl_Pclist", "tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management",
+                              "tbl_Environmental"}) {
         Stmt s;
         sqlite3_prepare_v2(db.h, QByteArray("SELECT * FROM ").append(table).append(" ORDER BY rowid").constData(), -1, &s.h, nullptr);
         while (sqlite3_step(s.h) == SQLITE_ROW) {
             QString line = QLatin1String(table);
             for (int c = 0; c < sqlite3_column_count(s.h); ++c)
-                line += QStringLiteral("|%1:%2").arg(sqlite3_column_type(s.h, c))
+                line += QStringLiteral("|%1:%2")
+                            .arg(sqlite3_column_type(s.h, c))
                             .arg(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(s.h, c))));
             out << line;
         }

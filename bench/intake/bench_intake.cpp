@@ -23,9 +23,9 @@
 #include <QThread>
 
 #include <algorithm>
-#include <utility>
 #include <cstdio>
 #include <ctime>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -44,8 +44,12 @@ struct AdminRun {
 AdminRun runAdmin(const QString& ledger, const QStringList& files)
 {
     QProcess p;
-    QStringList args = {QStringLiteral("-f"), QStringLiteral("cpu=%U+%S maxrss_kb=%M"), adminProgram, QStringLiteral("read"),
-                        QStringLiteral("--ledger"), ledger};
+    QStringList args = {QStringLiteral("-f"),
+                        QStringLiteral("cpu=%U+%S maxrss_kb=%M"),
+                        adminProgram,
+                        QStringLiteral("read"),
+                        QStringLiteral("--ledger"),
+                        ledger};
     args += files;
     QElapsedTimer t;
     t.start();
@@ -200,7 +204,8 @@ int main(int argc, char** argv)
         }
     }
     const QStringList readRows = bench::DumpComputers(readLedger);
-    for (const auto& [name, other] : {std::pair{"floor", bench::DumpComputers(floorLedger)}, std::pair{"copy floor", bench::DumpComputers(copyLedger)}}) {
+    for (const auto& [name, other] :
+         {std::pair{"floor", bench::DumpComputers(floorLedger)}, std::pair{"copy floor", bench::DumpComputers(copyLedger)}}) {
         if (readRows == other)
             continue;
         for (qsizetype i = 0; i < std::min(readRows.size(), other.size()); ++i)
@@ -209,7 +214,8 @@ int main(int argc, char** argv)
                              other[i].toUtf8().constData());
                 break;
             }
-        std::fprintf(stderr, "the read and the %s differ (%lld and %lld rows)\n", name, qlonglong(readRows.size()), qlonglong(other.size()));
+        std::fprintf(stderr, "the read and the %s differ (%lld and %lld rows)\n", name, qlonglong(readRows.size()),
+                     qlonglong(other.size()));
         return 1;
     }
 

@@ -179,8 +179,8 @@ int bench(int computers, int devices, int runs)
     const bool same = dumpList(check) == rebuilt;
     check.Close();
 
-    std::printf("machine: %d logical CPUs, Qt %s, SQLite %s, platform %s\n", QThread::idealThreadCount(), qVersion(),
-                sqlite3_libversion(), qPrintable(QGuiApplication::platformName()));
+    std::printf("machine: %d logical CPUs, Qt %s, SQLite %s, platform %s\n", QThread::idealThreadCount(), qVersion(), sqlite3_libversion(),
+                qPrintable(QGuiApplication::platformName()));
     std::printf("list: %d rows (installed computers and devices)\n", rows);
     std::printf("rebuild (RebuildNetworkList):       median %7.1f ms  (CPU %.1f ms)\n", median(rebuilds), median(rebuildCpu));
     std::printf("lower grid fill (View_NetworkList): median %7.1f ms  (CPU %.1f ms)\n", median(fills), median(fillCpu));

@@ -97,8 +97,7 @@ double untilPainted(PaintWatch& watch, const std::function<void()>& action, Timi
 void print(const char* what, const Timing& t, double target)
 {
     std::printf("%-44s median %6.1f ms  (min %.1f, max %.1f; CPU %.1f ms)  target %.0f ms\n", what, median(t.wall),
-                *std::min_element(t.wall.begin(), t.wall.end()), *std::max_element(t.wall.begin(), t.wall.end()),
-                median(t.cpu), target);
+                *std::min_element(t.wall.begin(), t.wall.end()), *std::max_element(t.wall.begin(), t.wall.end()), median(t.cpu), target);
 }
 
 void unload()
@@ -139,7 +138,8 @@ int run(int computers, int runs)
     Mdl_gData::g.ListRowCount = std::int16_t(computers);
     const auto lines = [&](const char* table) {
         return Mdl_Access_mdb::OpenRecordsetFirstRow(
-            QStringLiteral("SELECT Count(*) FROM %1 WHERE [Key] = 1").arg(QString::fromUtf8(table)))[0].toUtf8();
+                   QStringLiteral("SELECT Count(*) FROM %1 WHERE [Key] = 1").arg(QString::fromUtf8(table)))[0]
+            .toUtf8();
     };
     std::printf("computer 1: %s applications, %s devices, %s printers, %s environment variables\n",
                 lines("tbl_ApplicationsList").constData(), lines("tbl_Device_Management").constData(),
@@ -167,7 +167,8 @@ int run(int computers, int runs)
     Mdl_gData::g.SelectedMainKey = 1;
     Mdl_gData::g.SelectedGridRow = 1;
     frm_Edit_Computer& w = frm_Edit_Computer::Instance();
-    untilPainted(watch, [&] { w.Show(ui::vbModeless); }, opening);
+    untilPainted(
+        watch, [&] { w.Show(ui::vbModeless); }, opening);
     opening.wall.pop_back();
     opening.cpu.pop_back();
     const auto steps = [&](int tab) {
@@ -176,7 +177,8 @@ int run(int computers, int runs)
         for (int r = 0; r < runs; ++r) {
             if (w.CurrentPosition >= computers)
                 w.CurrentPosition = 0;
-            untilPainted(watch, [&] { w.cmd_Next_Click(); }, t);
+            untilPainted(
+                watch, [&] { w.cmd_Next_Click(); }, t);
         }
         return t;
     };
@@ -188,7 +190,8 @@ int run(int computers, int runs)
     for (int r = 0; r < runs; ++r) {
         w.TabStrip1->setCurrentIndex(0);
         QApplication::processEvents();
-        untilPainted(watch, [&] { w.TabStrip1->setCurrentIndex(2); }, tab);
+        untilPainted(
+            watch, [&] { w.TabStrip1->setCurrentIndex(2); }, tab);
     }
     const int rows = w.MSGrid_Application->Rows() - 1;
     const int roots = w.TreeView1->topLevelItemCount();
@@ -201,8 +204,7 @@ int run(int computers, int runs)
     print("step to the next computer, application page", stepApps, 50);
     print("step to the next computer, device page", stepDevices, 50);
     print("choose the application tab", tab, 50);
-    std::printf("application grid: %d rows; device tree: %d categories; message boxes shown: %d\n", rows, roots,
-                dialogs.shown);
+    std::printf("application grid: %d rows; device tree: %d categories; message boxes shown: %d\n", rows, roots, dialogs.shown);
     Mdl_Access_mdb::DisconnectDatabase();
     ui::SetDialogs(nullptr);
     return dialogs.shown == 0 ? 0 : 1;

@@ -4,9 +4,9 @@
 #include "assetlist/ExportListCommand.h"
 #include "demo/DemoLedger.h"
 #include "intake/ReadCommand.h"
-#include "mail/ExportMailCommand.h"
 #include "ledger/LedgerCommands.h"
 #include "licences/LicenceExports.h"
+#include "mail/ExportMailCommand.h"
 #include "network/ExportNetworkCommand.h"
 #include "platform/ui/ConsoleDialogs.h"
 #include "profile/SheetCommand.h"
@@ -38,20 +38,22 @@ void printUsage(std::FILE* to)
     QByteArray lists;
     for (const AdminExport::List& list : exportLists())
         lists += QByteArray(lists.isEmpty() ? "" : ", ") + list.name;
-    std::fprintf(to,
-                 "usage: fenwold-admin <command> [arguments]\n"
-                 "\n"
-                 "commands:\n"
-                 "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
-                 "  demo-ledger PATH     write a demo ledger of 60 computers to PATH (never overwrites), and a DB.ini of three views beside it if none is there\n"
-                 "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
-                 "  export LIST [--ledger PATH] [--ini PATH] [options] OUT   write a window's list to OUT as the window exports it\n"
-                 "      LIST: %s\n"
-                 "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   the same as export main\n"
-                 "  sheet [--ledger PATH] MAINKEY... OUT.pdf   the printed sheets of computers, in one PDF\n"
-                 "  backup [--ledger PATH] OUT   copy a ledger, in use or not, to the new file OUT\n"
-                 "  check [--ledger PATH]   check the file and the ledger's consistency\n",
-                 lists.constData());
+    std::fprintf(
+        to,
+        "usage: fenwold-admin <command> [arguments]\n"
+        "\n"
+        "commands:\n"
+        "  new-ledger PATH      write an empty ledger to PATH (never overwrites)\n"
+        "  demo-ledger PATH     write a demo ledger of 60 computers to PATH (never overwrites), and a DB.ini of three views beside it if "
+        "none is there\n"
+        "  read [--english] [--ledger PATH] FILE...   read inventory files, each a new computer\n"
+        "  export LIST [--ledger PATH] [--ini PATH] [options] OUT   write a window's list to OUT as the window exports it\n"
+        "      LIST: %s\n"
+        "  export-list [--ledger PATH] [--ini PATH] [--view N] OUT   the same as export main\n"
+        "  sheet [--ledger PATH] MAINKEY... OUT.pdf   the printed sheets of computers, in one PDF\n"
+        "  backup [--ledger PATH] OUT   copy a ledger, in use or not, to the new file OUT\n"
+        "  check [--ledger PATH]   check the file and the ledger's consistency\n",
+        lists.constData());
 }
 
 } // namespace
@@ -62,8 +64,8 @@ int main(int argc, char** argv)
     // controls, widgets, so those commands run under the widget application on the offscreen
     // platform: they need no display and show nothing. The others need no more than the core
     // application.
-    const bool widgets = argc > 1 && (std::strcmp(argv[1], "export") == 0 || std::strcmp(argv[1], "export-list") == 0
-                                      || std::strcmp(argv[1], "sheet") == 0);
+    const bool widgets =
+        argc > 1 && (std::strcmp(argv[1], "export") == 0 || std::strcmp(argv[1], "export-list") == 0 || std::strcmp(argv[1], "sheet") == 0);
     if (widgets)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::unique_ptr<QCoreApplication> application =

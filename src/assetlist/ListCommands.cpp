@@ -52,10 +52,8 @@ constexpr DeleteStep kDeleteSteps[] = {
      u"ユーザ登録一覧には登録ありませんでした。"},
     {u" FROM tbl_Device_Management", u" tbl_Device_Management.Key = ", u"デバイス一覧を削除しました。",
      u"デバイス一覧には登録ありませんでした。"},
-    {u" FROM tbl_Environmental", u" tbl_Environmental.Key = ", u"環境変数一覧を削除しました。",
-     u"環境変数一覧には登録ありませんでした。"},
-    {u" FROM tbl_Pclist", u" tbl_Pclist.MainKey = ", u"コンピュータ一覧を削除しました。",
-     u"コンピュータ一覧には登録ありませんでした。"},
+    {u" FROM tbl_Environmental", u" tbl_Environmental.Key = ", u"環境変数一覧を削除しました。", u"環境変数一覧には登録ありませんでした。"},
+    {u" FROM tbl_Pclist", u" tbl_Pclist.MainKey = ", u"コンピュータ一覧を削除しました。", u"コンピュータ一覧には登録ありませんでした。"},
     {u" FROM tbl_Printer_Management", u" tbl_Printer_Management.Key = ", u"プリンタ一覧を削除しました。",
      u"プリンタ一覧には登録ありませんでした。"},
     {u" FROM tbl_Mail_Management", u" tbl_Mail_Management.Conputer_Code = ", u"メール一覧を削除しました。",
@@ -113,11 +111,11 @@ void Mnu_AddNew(MainList& list)
 
         ExecuteSql(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) ") + QStringLiteral("VALUES (") + k + u')');
         ExecuteSql(QStringLiteral("INSERT INTO tbl_PClist (MainKey) ") + QStringLiteral("VALUES (") + k + u')');
-        for (const char16_t* code : {u"tbl_Computer_List.[Location_Code] = 0", u"tbl_Computer_List.[User_Code] = 0",
-                                     u"tbl_Computer_List.[Manufacturer_Code] = 0", u"tbl_Computer_List.[Model_Code] = 0",
-                                     u"tbl_Computer_List.[Deleted_Flug] = 0"}) {
-            ExecuteSql(QStringLiteral("UPDATE tbl_Computer_List SET ") + QString::fromUtf16(code) +
-                       QStringLiteral(" WHERE MainKey = ") + k);
+        for (const char16_t* code :
+             {u"tbl_Computer_List.[Location_Code] = 0", u"tbl_Computer_List.[User_Code] = 0", u"tbl_Computer_List.[Manufacturer_Code] = 0",
+              u"tbl_Computer_List.[Model_Code] = 0", u"tbl_Computer_List.[Deleted_Flug] = 0"}) {
+            ExecuteSql(QStringLiteral("UPDATE tbl_Computer_List SET ") + QString::fromUtf16(code) + QStringLiteral(" WHERE MainKey = ")
+                       + k);
         }
         ui::MsgBox(QStringLiteral("レコードを新規作成しました"));
         refresh(list);
@@ -138,8 +136,8 @@ void Mnu_Delete(MainList& list)
     const QString key = QString::number(list.CurrentMainKey);
     QString report;
     for (const DeleteStep& step : kDeleteSteps) {
-        const QString sql = QStringLiteral("DELETE ") + QString::fromUtf16(step.from) + QStringLiteral(" WHERE") +
-                            QString::fromUtf16(step.keyColumn) + key + u';';
+        const QString sql = QStringLiteral("DELETE ") + QString::fromUtf16(step.from) + QStringLiteral(" WHERE")
+                            + QString::fromUtf16(step.keyColumn) + key + u';';
         report += QString::fromUtf16(ExecuteSql(sql) ? step.deleted : step.absent) + ui::vbCrLf;
     }
 
@@ -161,8 +159,8 @@ void Mnu_ReplacePC(MainList& list)
         return;
 
     db::Recordset rs;
-    rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM tbl_Computer_List ") + QStringLiteral("WHERE MainKey ") +
-                QStringLiteral(" = ") + QString::number(list.CurrentMainKey),
+    rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM tbl_Computer_List ") + QStringLiteral("WHERE MainKey ")
+                + QStringLiteral(" = ") + QString::number(list.CurrentMainKey),
             Mdl_gData::DbConnection(), db::adOpenStatic, db::adLockOptimistic, -1);
     if (rs.RecordCount() != 0) {
         rs.Fields(u"Deleted_Flug") = vb::Variant(1);

@@ -117,7 +117,7 @@ enum class Rendering { Text, Master, Gigabytes, Megabytes, Equipped, Enabled };
 struct RenderRule {
     const char16_t* field;
     Rendering rendering;
-    const char16_t* flagField;   // the master's Available_flug, for Master
+    const char16_t* flagField; // the master's Available_flug, for Master
 };
 // The renderer also knows Memory_Free and Pagefile_Full, which no column asks for.
 constexpr RenderRule kRules[] = {
@@ -315,7 +315,7 @@ ui::FillResult MainList::fnc_View_PClist()
 
             grid.SetCol(1);
             if (!grid.Text().isEmpty())
-                g.ListRowKeys[counter] = vb::CInt(vb::Variant(grid.Text()));   // error 9 past row 2560
+                g.ListRowKeys[counter] = vb::CInt(vb::Variant(grid.Text())); // error 9 past row 2560
             ++counter;
             rs.MoveNext();
         }

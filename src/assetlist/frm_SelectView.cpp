@@ -76,8 +76,8 @@ void frm_SelectView::buildMenus()
 
     // the top-level captions are widened with ideographic blanks, as in the main window
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", PaddedCaption("ファイル", 7));
-    Mnu_Close = AddMenuItem(Mnu_File, "Mnu_Close", PaddedCaption("閉じる", 4), [this] { Mnu_Close_Click(); },
-                            QKeySequence(Qt::CTRL | Qt::Key_W));
+    Mnu_Close = AddMenuItem(
+        Mnu_File, "Mnu_Close", PaddedCaption("閉じる", 4), [this] { Mnu_Close_Click(); }, QKeySequence(Qt::CTRL | Qt::Key_W));
 
     Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", PaddedCaption("編集", 8));
     Mnu_SelectAll = AddMenuItem(Mnu_Edit, "Mnu_SelectAll", "リスト全選択", [this] { Mnu_SelectAll_Click(); });

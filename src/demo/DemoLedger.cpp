@@ -160,51 +160,43 @@ int readFiles(const QStringList& files, InventoryLanguage language)
 void administrativeRecords(db::Connection& c, const std::vector<Computer>& computers)
 {
     const QStringList sellers = {QStringLiteral("大塚商会"), QStringLiteral("ソフマップ"), QStringLiteral("内田洋行")};
-    const QStringList lessors = {QStringLiteral("オリックス"), QStringLiteral("東京リース"),
-                                 QStringLiteral("三井住友銀リース")};
-    const QStringList maintainers = {QStringLiteral("NECフィールディング"), QStringLiteral("富士通サポート"),
-                                     QStringLiteral("日本IBM")};
+    const QStringList lessors = {QStringLiteral("オリックス"), QStringLiteral("東京リース"), QStringLiteral("三井住友銀リース")};
+    const QStringList maintainers = {QStringLiteral("NECフィールディング"), QStringLiteral("富士通サポート"), QStringLiteral("日本IBM")};
     for (const Computer& pc : computers) {
         const int year = 2002 + pc.key % 4, month = 1 + pc.key % 12;
-        const QString lease =
-            pc.leased
-                ? QStringLiteral("Leasing_Company = %1, Leasing_Contract_Number = %2, "
-                                 "Leasing_StartDate = %3, Leasing_EndDate = %4, Leasing_Monthly_Amount = %5, ")
-                      .arg(Quoted(lessors[pc.key % 3]), Quoted(QStringLiteral("L-%1-%2").arg(year).arg(pad(pc.key, 4))),
-                           Quoted(QStringLiteral("%1/%2/01").arg(year).arg(pad(month, 2))),
-                           Quoted(QStringLiteral("%1/%2/01").arg(year + 4).arg(pad(month, 2))))
-                      .arg(4000 + 200 * (pc.key % 20))
-                : QStringLiteral("Cash_Payment = %1, ").arg(98000 + 1000 * (pc.key % 30));
+        const QString lease = pc.leased
+                                  ? QStringLiteral("Leasing_Company = %1, Leasing_Contract_Number = %2, "
+                                                   "Leasing_StartDate = %3, Leasing_EndDate = %4, Leasing_Monthly_Amount = %5, ")
+                                        .arg(Quoted(lessors[pc.key % 3]), Quoted(QStringLiteral("L-%1-%2").arg(year).arg(pad(pc.key, 4))),
+                                             Quoted(QStringLiteral("%1/%2/01").arg(year).arg(pad(month, 2))),
+                                             Quoted(QStringLiteral("%1/%2/01").arg(year + 4).arg(pad(month, 2))))
+                                        .arg(4000 + 200 * (pc.key % 20))
+                                  : QStringLiteral("Cash_Payment = %1, ").arg(98000 + 1000 * (pc.key % 30));
         QString comment = QStringLiteral("Null");
         if (pc.retired)
             comment = Quoted(QStringLiteral("リース満了につき返却"));
         else if (pc.key % 9 == 4)
             comment = Quoted(QStringLiteral("予備機"));
-        c.Execute(
-            QStringLiteral(
-                "UPDATE tbl_Computer_List SET Location_Code = %1, User_Code = %2, Manufacturer_Code = %3, "
-                "Model_Code = %4, Asset_Code = %5, Type_Number = %6, Sereals_Number = %7, Selling_Agent = %8, ")
-                .arg(pc.site.location)
-                .arg(pc.user)
-                .arg(LedgerGenerator::MakerOfModel(pc.model))
-                .arg(pc.model)
-                .arg(Quoted(pc.leased ? QStringLiteral("リース") : QStringLiteral("購入")),
-                     Quoted(QStringLiteral("%1-%2").arg(8000 + pc.model).arg(100 + pc.key * 7 % 900)),
-                     Quoted(QStringLiteral("SN%1").arg(pad(pc.key * 7919 % 100000000, 8))), Quoted(sellers[pc.key % 3]))
-            + lease
-            + QStringLiteral(
-                  "Maintenance_Agent = %1, Maintenance_Contract_Number = %2, Comment = %3, Deleted_Flug = %4, "
-                  "Remove_Date = %5 WHERE MainKey = %6")
-                  .arg(Quoted(maintainers[pc.key % 3]), Quoted(QStringLiteral("M-%1").arg(1000 + pc.key)), comment)
-                  .arg(pc.retired ? 1 : 0)
-                  .arg(pc.retired ? Quoted(QStringLiteral("2006/%1/28").arg(pad(1 + pc.key % 3, 2)))
-                                  : QStringLiteral("Null"))
-                  .arg(pc.key));
+        c.Execute(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = %1, User_Code = %2, Manufacturer_Code = %3, "
+                                 "Model_Code = %4, Asset_Code = %5, Type_Number = %6, Sereals_Number = %7, Selling_Agent = %8, ")
+                      .arg(pc.site.location)
+                      .arg(pc.user)
+                      .arg(LedgerGenerator::MakerOfModel(pc.model))
+                      .arg(pc.model)
+                      .arg(Quoted(pc.leased ? QStringLiteral("リース") : QStringLiteral("購入")),
+                           Quoted(QStringLiteral("%1-%2").arg(8000 + pc.model).arg(100 + pc.key * 7 % 900)),
+                           Quoted(QStringLiteral("SN%1").arg(pad(pc.key * 7919 % 100000000, 8))), Quoted(sellers[pc.key % 3]))
+                  + lease
+                  + QStringLiteral("Maintenance_Agent = %1, Maintenance_Contract_Number = %2, Comment = %3, Deleted_Flug = %4, "
+                                   "Remove_Date = %5 WHERE MainKey = %6")
+                        .arg(Quoted(maintainers[pc.key % 3]), Quoted(QStringLiteral("M-%1").arg(1000 + pc.key)), comment)
+                        .arg(pc.retired ? 1 : 0)
+                        .arg(pc.retired ? Quoted(QStringLiteral("2006/%1/28").arg(pad(1 + pc.key % 3, 2))) : QStringLiteral("Null"))
+                        .arg(pc.key));
         const bool notebook = LedgerGenerator::Models()[pc.model - 1].contains(QStringLiteral("Pad"))
                               || LedgerGenerator::Models()[pc.model - 1].contains(QStringLiteral("BIBLO"));
-        c.Execute(QStringLiteral(
-                      "UPDATE tbl_Pclist SET Floppydisk_Drive = %1, Cdrom_Drive = 1, DVD_Drive = %2, Cdr_Drive = %3, "
-                      "Mo_Drive = 0, Combo_Drive = %4, HUB_Name = %5 WHERE MainKey = %6")
+        c.Execute(QStringLiteral("UPDATE tbl_Pclist SET Floppydisk_Drive = %1, Cdrom_Drive = 1, DVD_Drive = %2, Cdr_Drive = %3, "
+                                 "Mo_Drive = 0, Combo_Drive = %4, HUB_Name = %5 WHERE MainKey = %6")
                       .arg(notebook ? 0 : 1)
                       .arg(pc.key % 3 == 0 ? 1 : 0)
                       .arg(pc.key % 2)
@@ -218,70 +210,60 @@ void administrativeRecords(db::Connection& c, const std::vector<Computer>& compu
 int licences(db::Connection& c, const std::vector<Computer>& computers)
 {
     for (size_t p = 0; p < kPurchases.size(); ++p)
-        c.Execute(
-            QStringLiteral("INSERT INTO tbl_License_Key ( [Key], Application_Name, Unit_Num ) VALUES ( %1, %2, %3 )")
-                .arg(p + 1)
-                .arg(Quoted(ascii(kPurchases[p].application)))
-                .arg(kPurchases[p].units));
+        c.Execute(QStringLiteral("INSERT INTO tbl_License_Key ( [Key], Application_Name, Unit_Num ) VALUES ( %1, %2, %3 )")
+                      .arg(p + 1)
+                      .arg(Quoted(ascii(kPurchases[p].application)))
+                      .arg(kPurchases[p].units));
     int key = 0;
     for (const Computer& pc : computers) {
         if (pc.retired)
             continue;
-        const std::array<bool, kPurchases.size()> holds = {
-            pc.key % 3 != 0, true, pc.key % 6 == 1, pc.key % 12 == 5, pc.key % 4 == 2, pc.key % 8 == 3};
+        const std::array<bool, kPurchases.size()> holds = {pc.key % 3 != 0, true,           pc.key % 6 == 1, pc.key % 12 == 5,
+                                                           pc.key % 4 == 2, pc.key % 8 == 3};
         for (size_t p = 0; p < holds.size(); ++p) {
             if (!holds[p])
                 continue;
             ++key;
             const bool cash = kPurchases[p].price == 0 || pc.key % 5 == 0;
-            c.Execute(
-                QStringLiteral(
-                    "INSERT INTO tbl_License_Dat ( [Key], Application_Code, Computer_Code, ProductID, Licence_No, "
-                    "Install_Key, Payment_Type, Asset_Type, Purchase_Price, Comment, [Update] ) VALUES ( "
-                    "%1, %2, %3, %4, %5, %6, %7, %8, %9, %10, %11 )")
-                    .arg(key)
-                    .arg(p + 1)
-                    .arg(pc.key)
-                    .arg(Quoted(
-                             QStringLiteral("%1-OEM-%2").arg(70000 + int(p) * 1111).arg(pad(key * 3571 % 10000000, 7))),
-                         Quoted(QStringLiteral("LIC-%1-%2").arg(p + 1).arg(pad(key, 4))),
-                         Quoted(
-                             QStringLiteral("%1-%2-%3")
-                                 .arg(pad(key * 7 % 100000, 5), pad(key * 13 % 100000, 5), pad(key * 31 % 100000, 5))),
-                         Quoted(cash ? QStringLiteral("現金") : QStringLiteral("リース")),
-                         Quoted(ascii(kPurchases[p].assetType)))
-                    .arg(kPurchases[p].price)
-                    .arg(pc.key % 10 == 1 ? Quoted(QStringLiteral("再インストール済み")) : QStringLiteral("Null"),
-                         Quoted(QStringLiteral("2005/%1/%2").arg(pad(1 + key % 12, 2), pad(1 + key % 28, 2)))));
+            c.Execute(QStringLiteral("INSERT INTO tbl_License_Dat ( [Key], Application_Code, Computer_Code, ProductID, Licence_No, "
+                                     "Install_Key, Payment_Type, Asset_Type, Purchase_Price, Comment, [Update] ) VALUES ( "
+                                     "%1, %2, %3, %4, %5, %6, %7, %8, %9, %10, %11 )")
+                          .arg(key)
+                          .arg(p + 1)
+                          .arg(pc.key)
+                          .arg(Quoted(QStringLiteral("%1-OEM-%2").arg(70000 + int(p) * 1111).arg(pad(key * 3571 % 10000000, 7))),
+                               Quoted(QStringLiteral("LIC-%1-%2").arg(p + 1).arg(pad(key, 4))),
+                               Quoted(QStringLiteral("%1-%2-%3")
+                                          .arg(pad(key * 7 % 100000, 5), pad(key * 13 % 100000, 5), pad(key * 31 % 100000, 5))),
+                               Quoted(cash ? QStringLiteral("現金") : QStringLiteral("リース")), Quoted(ascii(kPurchases[p].assetType)))
+                          .arg(kPurchases[p].price)
+                          .arg(pc.key % 10 == 1 ? Quoted(QStringLiteral("再インストール済み")) : QStringLiteral("Null"),
+                               Quoted(QStringLiteral("2005/%1/%2").arg(pad(1 + key % 12, 2), pad(1 + key % 28, 2)))));
         }
     }
     return key;
 }
 
 // A mail account for each user who has a computer; returns how many.
-int mailAccounts(db::Connection& c, const std::vector<Computer>& computers,
-                 const std::vector<LedgerGenerator::User>& users)
+int mailAccounts(db::Connection& c, const std::vector<Computer>& computers, const std::vector<LedgerGenerator::User>& users)
 {
     int key = 0;
     for (const LedgerGenerator::User& user : users) {
-        const auto pc = std::find_if(computers.begin(), computers.end(),
-                                     [&](const Computer& k) { return k.user == user.code && !k.retired; });
+        const auto pc =
+            std::find_if(computers.begin(), computers.end(), [&](const Computer& k) { return k.user == user.code && !k.retired; });
         if (pc == computers.end() || user.code % 7 == 3)
             continue;
         ++key;
         const QString mailServer = pc->english ? QStringLiteral("10.3.0.25") : QStringLiteral("192.168.0.25");
-        c.Execute(
-            QStringLiteral(
-                "INSERT INTO tbl_Mail_Management ( [Key], User_Code, Conputer_Code, beat_loginID, beat_loginPassward, "
-                "Windows_UserName, Mail_Address, SMTP_IPAddress, POP3_IPAddress, Mailbox_AccountName, "
-                "Mailbox_Password ) VALUES ( %1, %2, %3, %4, %5, %6, %7, %8, %8, %9, %10 )")
-                .arg(key)
-                .arg(user.code)
-                .arg(pc->key)
-                .arg(Quoted(QStringLiteral("b") + user.account),
-                     Quoted(QStringLiteral("bt%1").arg(pad(user.code * 37 % 10000, 4))), Quoted(user.account),
-                     Quoted(user.account + QStringLiteral("@example.co.jp")), Quoted(mailServer), Quoted(user.account),
-                     Quoted(QStringLiteral("mb%1").arg(pad(user.code * 53 % 10000, 4)))));
+        c.Execute(QStringLiteral("INSERT INTO tbl_Mail_Management ( [Key], User_Code, Conputer_Code, beat_loginID, beat_loginPassward, "
+                                 "Windows_UserName, Mail_Address, SMTP_IPAddress, POP3_IPAddress, Mailbox_AccountName, "
+                                 "Mailbox_Password ) VALUES ( %1, %2, %3, %4, %5, %6, %7, %8, %8, %9, %10 )")
+                      .arg(key)
+                      .arg(user.code)
+                      .arg(pc->key)
+                      .arg(Quoted(QStringLiteral("b") + user.account), Quoted(QStringLiteral("bt%1").arg(pad(user.code * 37 % 10000, 4))),
+                           Quoted(user.account), Quoted(user.account + QStringLiteral("@example.co.jp")), Quoted(mailServer),
+                           Quoted(user.account), Quoted(QStringLiteral("mb%1").arg(pad(user.code * 53 % 10000, 4)))));
     }
     return key;
 }
@@ -322,8 +304,7 @@ QString writeLedger(const QString& path, DemoLedgerSummary& summary)
         return QStringLiteral("the address list could not be rebuilt");
 
     summary.computers = kComputers;
-    summary.retired =
-        int(std::count_if(computers.begin(), computers.end(), [](const Computer& pc) { return pc.retired; }));
+    summary.retired = int(std::count_if(computers.begin(), computers.end(), [](const Computer& pc) { return pc.retired; }));
     summary.english = english.size();
     summary.users = kUsers;
     summary.purchases = int(kPurchases.size());
@@ -385,10 +366,7 @@ QByteArray DemoSettings()
          0,
          {{"Section_Name", "部署", "ASC"}, {"Computer_Name", "コンピュータ名", "ASC"}},
          {2, 3, 4, 8, 10, 1, 13, 14, 17, 28, 26}},
-        {"OS別",
-         0,
-         {{"Operating_System", "OS", "ASC"}, {"Computer_Name", "コンピュータ名", "ASC"}},
-         {17, 8, 24, 25, 28, 26, 4, 1, 14}},
+        {"OS別", 0, {{"Operating_System", "OS", "ASC"}, {"Computer_Name", "コンピュータ名", "ASC"}}, {17, 8, 24, 25, 28, 26, 4, 1, 14}},
         {"撤去済み", 1, {{"Remove_Date", "撤去日", "DESC"}}, {8, 75, 1, 4, 13, 14, 16, 66, 68, 76}},
     }};
     QStringList lines = {QStringLiteral("[Main]"), QStringLiteral("SectionNumber=0")};
@@ -434,19 +412,18 @@ int DemoLedgerCommand(const QStringList& args)
         }
         settings = QStringLiteral("DB.ini with 3 views written beside it");
     }
-    app::PrintLine(stdout,
-                   QStringLiteral("%1: %2 computers (%3 retired, %4 read in English), %5 users, %6 licence purchases "
-                                  "and %7 assignments, %8 mail accounts, %9 network devices; %10")
-                       .arg(path)
-                       .arg(s.computers)
-                       .arg(s.retired)
-                       .arg(s.english)
-                       .arg(s.users)
-                       .arg(s.purchases)
-                       .arg(s.assignments)
-                       .arg(s.mailAccounts)
-                       .arg(s.devices)
-                       .arg(settings));
+    app::PrintLine(stdout, QStringLiteral("%1: %2 computers (%3 retired, %4 read in English), %5 users, %6 licence purchases "
+                                          "and %7 assignments, %8 mail accounts, %9 network devices; %10")
+                               .arg(path)
+                               .arg(s.computers)
+                               .arg(s.retired)
+                               .arg(s.english)
+                               .arg(s.users)
+                               .arg(s.purchases)
+                               .arg(s.assignments)
+                               .arg(s.mailAccounts)
+                               .arg(s.devices)
+                               .arg(settings));
     return app::ExitDone;
 }
 

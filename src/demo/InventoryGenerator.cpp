@@ -139,9 +139,9 @@ const std::array<Word, 6> kInternetSettings = {{
 }};
 const std::array<const char16_t*, 12> kCpuFlags = {u"FPU", u"VME", u"DE",  u"PSE",  u"TSC", u"MSR",
                                                    u"PAE", u"MCE", u"CX8", u"APIC", u"SEP", u"MTRR"};
-const std::array<const char16_t*, 20> kMoreFlags = {
-    u"PGE", u"MCA", u"CMOV",  u"PAT",     u"PSE36", u"PSN",     u"MMX",   u"FXSR", u"SSE", u"SSE2",
-    u"HTT", u"TM",  u"3DNow", u"3DNowEx", u"SSE3",  u"MONITOR", u"DSCPL", u"EST",  u"TM2", u"CID"};
+const std::array<const char16_t*, 20> kMoreFlags = {u"PGE",  u"MCA",     u"CMOV",  u"PAT", u"PSE36", u"PSN",   u"MMX",
+                                                    u"FXSR", u"SSE",     u"SSE2",  u"HTT", u"TM",    u"3DNow", u"3DNowEx",
+                                                    u"SSE3", u"MONITOR", u"DSCPL", u"EST", u"TM2",   u"CID"};
 
 QString s(const char16_t* t) { return QString::fromUtf16(t); }
 QString pad(int n, int width) { return QStringLiteral("%1").arg(n, width, 10, QLatin1Char('0')); }
@@ -160,8 +160,8 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
     const int hour = 8 + dice.below(10), minute = dice.below(60);
     const QString stamp = date + QStringLiteral(" %1:%2:%3").arg(pad(hour, 2), pad(minute, 2), pad(dice.below(60), 2));
     int key = 0;
-    const auto add = [&](const QString& group, const QString& item, const QString& subItem, const QString& contents,
-                         const QString& unit, const QString& day) {
+    const auto add = [&](const QString& group, const QString& item, const QString& subItem, const QString& contents, const QString& unit,
+                         const QString& day) {
         lines << QStringLiteral("%1,%2,%3,%4,%5,%6,%7").arg(++key).arg(group, item, subItem, contents, unit, day);
     };
     const auto prop = [&](const QString& group, const QString& item, const Word& subItem, const QString& contents,
@@ -172,15 +172,13 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
     const QString net = QStringLiteral("Network"), hard = QStringLiteral("Hard"), soft = QStringLiteral("Soft");
     const QString lan = QStringLiteral("LAN"), adapter = QStringLiteral("Adapter"), cpu = QStringLiteral("CPU");
     const int host = 10 + n % 240, subnet = n / 240;
-    const QString computerName =
-        machine.computerName.isEmpty() ? QStringLiteral("PC-") + pad(n, 5) : machine.computerName;
+    const QString computerName = machine.computerName.isEmpty() ? QStringLiteral("PC-") + pad(n, 5) : machine.computerName;
 
     if (!en)
         add(QStringLiteral("Create"), QStringLiteral("DateTime"), stamp, QString(), QString(), stamp);
     prop(net, lan, {u"コンピュータ名", u"Computer name"}, computerName);
     prop(net, lan, {u"ワークグループ", u"Workgroup name"}, QStringLiteral("WORKGROUP"));
-    prop(net, lan, {u"ユーザー名", u"User name"},
-         machine.userName.isEmpty() ? QStringLiteral("user%1").arg(n) : machine.userName);
+    prop(net, lan, {u"ユーザー名", u"User name"}, machine.userName.isEmpty() ? QStringLiteral("user%1").arg(n) : machine.userName);
     prop(net, lan, {u"ホスト名", u"Host name"}, computerName.toLower());
     prop(net, lan, {u"ドメイン", u"Domain name"}, QStringLiteral("corp.example.co.jp"));
     prop(net, lan, {u"コンピュータの説明", u"Explanation of a computer"},
@@ -190,8 +188,7 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
     prop(net, lan, same(u"SecondaryDNS"), QStringLiteral("10.0.0.3"));
     for (int a = 0; a < 2; ++a) {
         prop(net, adapter, {u"アダプター名", u"Adapter name"},
-             a == 0 ? QStringLiteral("Intel(R) PRO/1000 MT Network Connection")
-                    : s(en ? u"1394 Net Adapter" : u"1394 ネット アダプタ"));
+             a == 0 ? QStringLiteral("Intel(R) PRO/1000 MT Network Connection") : s(en ? u"1394 Net Adapter" : u"1394 ネット アダプタ"));
         QString address;
         if (a == 0) {
             address = QStringLiteral("10.%1.%2.%3").arg(1 + subnet).arg(dice.below(4)).arg(host);
@@ -212,8 +209,7 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
         prop(net, adapter, same(u"SecondaryWINS"), a == 0 ? QString() : QStringLiteral("10.0.0.7"));
         prop(net, adapter, same(u"DNSSuffix"), QStringLiteral("corp.example.co.jp"));
     }
-    const Word full{u"全容量", u"Capacity"}, usedWord{u"使用量", u"Amount used"},
-        freeWord{u"空容量", u"Empty capacity"};
+    const Word full{u"全容量", u"Capacity"}, usedWord{u"使用量", u"Amount used"}, freeWord{u"空容量", u"Empty capacity"};
     const QString memoryItem = w({u"メモリ", u"Memory"}), pageItem = w({u"ページファイル", u"PageFile"});
     const QString kb = QStringLiteral("KB");
     const int memory = 256 << dice.below(3);
@@ -233,8 +229,7 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
     prop(hard, systemHdd, usedWord, QString::number(qint64(diskUsed) * 1000), kb);
     prop(hard, systemHdd, freeWord, QString::number(qint64(disk - diskUsed) * 1000), kb);
     const QString drawnResolution = dice.below(2) ? s(u"1024×768") : s(u"1280×1024");
-    prop(hard, w({u"画面", u"Screen"}), {u"解像度", u"Resolution"},
-         machine.resolution.isEmpty() ? drawnResolution : machine.resolution);
+    prop(hard, w({u"画面", u"Screen"}), {u"解像度", u"Resolution"}, machine.resolution.isEmpty() ? drawnResolution : machine.resolution);
     prop(hard, QStringLiteral("System"), same(u"Model"), machine.model);
     prop(hard, QStringLiteral("BIOS"), same(u"SerialNo"), QStringLiteral("5X") + pad(n * 7919 % 10000000, 7));
     prop(hard, QStringLiteral("BIOS"), same(u"Version"), machine.maker + QStringLiteral(" - 6040000"));
@@ -244,16 +239,13 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
     prop(soft, windows, same(u"OEM Manufacturer"), machine.maker);
     prop(soft, windows, same(u"OEM Model"), machine.model);
     prop(soft, windows, same(u"Directory"),
-         machine.operatingSystem.contains(QStringLiteral("2000")) ? QStringLiteral("C:\\WINNT")
-                                                                  : QStringLiteral("C:\\WINDOWS"));
+         machine.operatingSystem.contains(QStringLiteral("2000")) ? QStringLiteral("C:\\WINNT") : QStringLiteral("C:\\WINDOWS"));
     prop(soft, QStringLiteral("IE"), same(u"Version"), QStringLiteral("6.0.2900.2180"));
     prop(soft, QStringLiteral("IE"), {u"更新Version", u"UpdatingVersion"}, QStringLiteral(";SP2;"));
     const QString internet = QStringLiteral("Internet");
     for (const Word& setting : kInternetSettings)
-        add(soft, internet, QStringLiteral("Setting"), w(setting),
-            dice.below(2) ? QStringLiteral("True") : QStringLiteral("False"), stamp);
-    add(soft, internet, QStringLiteral("Setting"), QStringLiteral("Start Page"),
-        QStringLiteral("http://intra.example.co.jp/"), stamp);
+        add(soft, internet, QStringLiteral("Setting"), w(setting), dice.below(2) ? QStringLiteral("True") : QStringLiteral("False"), stamp);
+    add(soft, internet, QStringLiteral("Setting"), QStringLiteral("Start Page"), QStringLiteral("http://intra.example.co.jp/"), stamp);
     const bool amd = machine.cpu.startsWith(QStringLiteral("AMD"));
     prop(hard, cpu, same(u"Name"), amd ? QStringLiteral("AMD Athlon XP") : QStringLiteral("Intel Pentium 4"));
     prop(hard, cpu, same(u"Clock"), QString::number(2400 + 200 * dice.below(5)), QStringLiteral("MHz"));
@@ -293,16 +285,14 @@ QByteArray InventoryFile(int n, const InventoryMachine& machine)
     if (machine.printers.empty()) {
         for (int p = 0; p < 5; ++p)
             add(hard, QStringLiteral("Printer"),
-                p == 0 ? section + s(en ? u" color laser" : u" カラーレーザー")
-                       : QStringLiteral("EPSON LP-%1").arg(8000 + p * 100),
+                p == 0 ? section + s(en ? u" color laser" : u" カラーレーザー") : QStringLiteral("EPSON LP-%1").arg(8000 + p * 100),
                 p == 0 ? QStringLiteral("LPT1:") : QStringLiteral("IP_10.0.9.%1").arg(p), QString(), date);
     }
     for (const auto& [printer, port] : machine.printers)
         add(hard, QStringLiteral("Printer"), printer, port, QString(), date);
     for (int e = 0; e < 30; ++e)
         add(QStringLiteral("Environmental"), e == 0 ? QStringLiteral("Path") : QStringLiteral("VAR_%1").arg(e),
-            e == 0 ? QStringLiteral("C:\\WINDOWS\\system32;C:\\WINDOWS")
-                   : QStringLiteral("C:\\DOCUME~1\\user%1\\Data%2").arg(n).arg(e),
+            e == 0 ? QStringLiteral("C:\\WINDOWS\\system32;C:\\WINDOWS") : QStringLiteral("C:\\DOCUME~1\\user%1\\Data%2").arg(n).arg(e),
             QString(), QString(), date);
     const QString text = lines.join(QStringLiteral("\r\n")) + QStringLiteral("\r\n");
     return text::ToCp932(text);

@@ -10,31 +10,27 @@ namespace LedgerGenerator {
 
 namespace {
 
-const QStringList kLocations = {
-    QStringLiteral("本社1F"),       QStringLiteral("本社2F"),       QStringLiteral("本社3F"),
-    QStringLiteral("本社4F会議室"), QStringLiteral("東京営業所"),   QStringLiteral("大阪支店"),
-    QStringLiteral("名古屋支店"),   QStringLiteral("福岡営業所"),   QStringLiteral("第一工場"),
-    QStringLiteral("第二工場"),     QStringLiteral("物流センター"), QStringLiteral("研究所")};
+const QStringList kLocations = {QStringLiteral("本社1F"),       QStringLiteral("本社2F"),       QStringLiteral("本社3F"),
+                                QStringLiteral("本社4F会議室"), QStringLiteral("東京営業所"),   QStringLiteral("大阪支店"),
+                                QStringLiteral("名古屋支店"),   QStringLiteral("福岡営業所"),   QStringLiteral("第一工場"),
+                                QStringLiteral("第二工場"),     QStringLiteral("物流センター"), QStringLiteral("研究所")};
 const QStringList kSections = {QStringLiteral("総務部"),     QStringLiteral("経理部"),        QStringLiteral("人事部"),
                                QStringLiteral("営業部"),     QStringLiteral("開発部"),        QStringLiteral("製造部"),
                                QStringLiteral("品質保証部"), QStringLiteral("情報システム部")};
 const QStringList kDivisions = {QStringLiteral("庶務課"),     QStringLiteral("会計課"),     QStringLiteral("採用課"),
                                 QStringLiteral("第一営業課"), QStringLiteral("第二営業課"), QStringLiteral("設計課"),
                                 QStringLiteral("生産管理課"), QStringLiteral("検査課"),     QStringLiteral("運用課")};
-const QStringList kFamily = {QStringLiteral("佐藤"), QStringLiteral("鈴木"), QStringLiteral("高橋"),
-                             QStringLiteral("田中"), QStringLiteral("伊藤"), QStringLiteral("渡辺"),
-                             QStringLiteral("山本"), QStringLiteral("中村"), QStringLiteral("小林"),
-                             QStringLiteral("加藤"), QStringLiteral("吉田"), QStringLiteral("山田")};
+const QStringList kFamily = {QStringLiteral("佐藤"), QStringLiteral("鈴木"), QStringLiteral("高橋"), QStringLiteral("田中"),
+                             QStringLiteral("伊藤"), QStringLiteral("渡辺"), QStringLiteral("山本"), QStringLiteral("中村"),
+                             QStringLiteral("小林"), QStringLiteral("加藤"), QStringLiteral("吉田"), QStringLiteral("山田")};
 const QStringList kFamilyKana = {QStringLiteral("サトウ"),   QStringLiteral("スズキ"),   QStringLiteral("タカハシ"),
                                  QStringLiteral("タナカ"),   QStringLiteral("イトウ"),   QStringLiteral("ワタナベ"),
                                  QStringLiteral("ヤマモト"), QStringLiteral("ナカムラ"), QStringLiteral("コバヤシ"),
                                  QStringLiteral("カトウ"),   QStringLiteral("ヨシダ"),   QStringLiteral("ヤマダ")};
-const QStringList kGiven = {QStringLiteral("太郎"), QStringLiteral("花子"), QStringLiteral("一郎"),
-                            QStringLiteral("洋子"), QStringLiteral("健二"), QStringLiteral("美紀"),
-                            QStringLiteral("誠"),   QStringLiteral("裕子")};
-const QStringList kGivenKana = {QStringLiteral("タロウ"), QStringLiteral("ハナコ"), QStringLiteral("イチロウ"),
-                                QStringLiteral("ヨウコ"), QStringLiteral("ケンジ"), QStringLiteral("ミキ"),
-                                QStringLiteral("マコト"), QStringLiteral("ユウコ")};
+const QStringList kGiven = {QStringLiteral("太郎"), QStringLiteral("花子"), QStringLiteral("一郎"), QStringLiteral("洋子"),
+                            QStringLiteral("健二"), QStringLiteral("美紀"), QStringLiteral("誠"),   QStringLiteral("裕子")};
+const QStringList kGivenKana = {QStringLiteral("タロウ"), QStringLiteral("ハナコ"), QStringLiteral("イチロウ"), QStringLiteral("ヨウコ"),
+                                QStringLiteral("ケンジ"), QStringLiteral("ミキ"),   QStringLiteral("マコト"),   QStringLiteral("ユウコ")};
 const QStringList kMakers = {QStringLiteral("NEC"), QStringLiteral("富士通"), QStringLiteral("東芝"),
                              QStringLiteral("IBM"), QStringLiteral("DELL"),   QStringLiteral("HP")};
 // per maker: models, and the type number each model carries
@@ -46,13 +42,11 @@ const QStringList kModels[] = {
     {QStringLiteral("OptiPlex GX280"), QStringLiteral("Latitude D600")},
     {QStringLiteral("Compaq d530 SF"), QStringLiteral("Compaq nx6110")},
 };
-const QStringList kCpus = {
-    QStringLiteral("Intel(R) Pentium(R) 4 CPU 2.80GHz"), QStringLiteral("Intel(R) Pentium(R) 4 CPU 3.00GHz"),
-    QStringLiteral("Intel(R) Pentium(R) M processor 1.60GHz"), QStringLiteral("Intel(R) Celeron(R) CPU 2.40GHz"),
-    QStringLiteral("AMD Athlon(tm) XP 2500+")};
+const QStringList kCpus = {QStringLiteral("Intel(R) Pentium(R) 4 CPU 2.80GHz"), QStringLiteral("Intel(R) Pentium(R) 4 CPU 3.00GHz"),
+                           QStringLiteral("Intel(R) Pentium(R) M processor 1.60GHz"), QStringLiteral("Intel(R) Celeron(R) CPU 2.40GHz"),
+                           QStringLiteral("AMD Athlon(tm) XP 2500+")};
 const int kClocks[] = {2800, 3000, 1600, 2400, 1833};
-const QStringList kOses = {QStringLiteral("Microsoft Windows XP Professional"),
-                           QStringLiteral("Microsoft Windows 2000 Professional")};
+const QStringList kOses = {QStringLiteral("Microsoft Windows XP Professional"), QStringLiteral("Microsoft Windows 2000 Professional")};
 
 class Values {
 public:
@@ -69,11 +63,10 @@ private:
 void masterRows(db::Connection& c, const QString& table, const QString& prefix, const QStringList& names)
 {
     for (int i = 0; i < names.size(); ++i)
-        c.Execute(
-            QStringLiteral("INSERT INTO %1 (%2_Code, %2_Name, %2_Comment, Available_flug) VALUES (%3, %4, '', '0')")
-                .arg(table, prefix)
-                .arg(i + 1)
-                .arg(Quoted(names[i])));
+        c.Execute(QStringLiteral("INSERT INTO %1 (%2_Code, %2_Name, %2_Comment, Available_flug) VALUES (%3, %4, '', '0')")
+                      .arg(table, prefix)
+                      .arg(i + 1)
+                      .arg(Quoted(names[i])));
 }
 
 } // namespace
@@ -144,8 +137,7 @@ std::vector<User> Users(db::Connection& c, int count, unsigned seed)
                       .arg(u)
                       .arg(Quoted(name), Quoted(u % 30 == 0 ? QStringLiteral("1") : QStringLiteral("0")),
                            Quoted(kFamilyKana[f] + QStringLiteral(" ") + kGivenKana[g]),
-                           Quoted(QStringLiteral("%1").arg(10000 + u, 6, 10, QLatin1Char('0'))), Quoted(account),
-                           Quoted(password))
+                           Quoted(QStringLiteral("%1").arg(10000 + u, 6, 10, QLatin1Char('0'))), Quoted(account), Quoted(password))
                       .arg(section)
                       .arg(division));
         users.push_back({u, name, account, section});
@@ -170,22 +162,17 @@ void Generate(db::Connection& c, int computers, unsigned seed)
         const int cpu = v.upTo(int(kCpus.size()));
         const int subnet = 1 + (k - 1) / 250, host = 1 + (k - 1) % 250;
         const QString ip = QStringLiteral("192.168.%1.%2").arg(subnet).arg(host);
-        const QString ipHex = QStringLiteral("C0A8%1%2")
-                                  .arg(subnet, 2, 16, QLatin1Char('0'))
-                                  .arg(host, 2, 16, QLatin1Char('0'))
-                                  .toUpper();
+        const QString ipHex = QStringLiteral("C0A8%1%2").arg(subnet, 2, 16, QLatin1Char('0')).arg(host, 2, 16, QLatin1Char('0')).toUpper();
         const int diskKb =
-            v.pick({QStringLiteral("40"), QStringLiteral("80"), QStringLiteral("120"), QStringLiteral("160")}).toInt()
-            * 1000000;
+            v.pick({QStringLiteral("40"), QStringLiteral("80"), QStringLiteral("120"), QStringLiteral("160")}).toInt() * 1000000;
         const int diskUsed = diskKb / 100 * v.between(15, 85);
         const int memKb = 262144 * (1 << v.upTo(3));
         const int memUsed = memKb / 100 * v.between(30, 90);
         const int pageFull = memKb * 3 / 2, pageUsed = pageFull / 100 * v.between(10, 60);
-        const bool notebook =
-            models[model - 1].contains(QStringLiteral("Pad")) || models[model - 1].contains(QStringLiteral("Latitude"))
-            || models[model - 1].contains(QStringLiteral("VersaPro"))
-            || models[model - 1].contains(QStringLiteral("BIBLO")) || models[model - 1].contains(QStringLiteral("nx"))
-            || models[model - 1].contains(QStringLiteral("dynabook"));
+        const bool notebook = models[model - 1].contains(QStringLiteral("Pad")) || models[model - 1].contains(QStringLiteral("Latitude"))
+                              || models[model - 1].contains(QStringLiteral("VersaPro"))
+                              || models[model - 1].contains(QStringLiteral("BIBLO")) || models[model - 1].contains(QStringLiteral("nx"))
+                              || models[model - 1].contains(QStringLiteral("dynabook"));
         const QString name = QStringLiteral("PC%1").arg(k, 4, 10, QLatin1Char('0'));
         const int leaseMonth = v.between(1, 12);
         const int leaseYear = v.between(2002, 2005);
@@ -206,17 +193,14 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                      Quoted(QStringLiteral("%1-%2").arg(8000 + model).arg(v.between(100, 999))),
                      Quoted(QStringLiteral("SN%1").arg(v.between(10000000, 99999999))),
                      Quoted(QStringLiteral("2005/%1/%2").arg(v.between(1, 12)).arg(v.between(1, 28))),
-                     Quoted(v.pick(
-                         {QStringLiteral("大塚商会"), QStringLiteral("ソフマップ"), QStringLiteral("内田洋行")})),
-                     Quoted(v.pick({QStringLiteral("オリックス"), QStringLiteral("東京リース"),
-                                    QStringLiteral("三井住友銀リース")})),
+                     Quoted(v.pick({QStringLiteral("大塚商会"), QStringLiteral("ソフマップ"), QStringLiteral("内田洋行")})),
+                     Quoted(v.pick({QStringLiteral("オリックス"), QStringLiteral("東京リース"), QStringLiteral("三井住友銀リース")})),
                      Quoted(QStringLiteral("L-%1-%2").arg(leaseYear).arg(k, 5, 10, QLatin1Char('0'))),
                      Quoted(QStringLiteral("%1/%2/1").arg(leaseYear).arg(leaseMonth)))
                 .arg(Quoted(QStringLiteral("%1/%2/1").arg(leaseYear + 4).arg(leaseMonth)))
                 .arg(v.between(40, 120) * 100)
                 .arg(v.chance(20) ? v.between(1, 50) * 1000 : 0)
-                .arg(Quoted(v.pick({QStringLiteral("NECフィールディング"), QStringLiteral("富士通サポート"),
-                                    QStringLiteral("日本IBM")})),
+                .arg(Quoted(v.pick({QStringLiteral("NECフィールディング"), QStringLiteral("富士通サポート"), QStringLiteral("日本IBM")})),
                      Quoted(QStringLiteral("M-%1").arg(v.between(1000, 9999))),
                      v.chance(15) ? Quoted(QStringLiteral("予備機")) : QStringLiteral("Null")));
 
@@ -238,8 +222,7 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                                      .arg(v.between(9, 18))
                                      .arg(v.between(10, 59))),
                           Quoted(name),
-                          Quoted(v.pick(
-                              {QStringLiteral("WORKGROUP"), QStringLiteral("EIGYO"), QStringLiteral("KAIHATSU")})),
+                          Quoted(v.pick({QStringLiteral("WORKGROUP"), QStringLiteral("EIGYO"), QStringLiteral("KAIHATSU")})),
                           Quoted(ip),
                           Quoted(ipHex),
                           Quoted(QStringLiteral("00-0D-60-%1-%2-%3")
@@ -250,18 +233,13 @@ void Generate(db::Connection& c, int computers, unsigned seed)
                           Quoted(v.pick(kOses)),
                           Quoted(QStringLiteral("5.1.2600")),
                           Quoted(v.pick({QStringLiteral("Service Pack 1"), QStringLiteral("Service Pack 2")})),
-                          Quoted(QStringLiteral("55274-OEM-%1-%2")
-                                     .arg(v.between(1000000, 9999999))
-                                     .arg(v.between(10000, 99999))),
-                          Quoted(QStringLiteral("XXXXX-%1-%2-XXXXX-XXXXX")
-                                     .arg(v.between(10000, 99999))
-                                     .arg(v.between(10000, 99999))),
+                          Quoted(QStringLiteral("55274-OEM-%1-%2").arg(v.between(1000000, 9999999)).arg(v.between(10000, 99999))),
+                          Quoted(QStringLiteral("XXXXX-%1-%2-XXXXX-XXXXX").arg(v.between(10000, 99999)).arg(v.between(10000, 99999))),
                           Quoted(kMakers[maker - 1]),
                           Quoted(models[model - 1]),
                           Quoted(QStringLiteral("6.0.2900.2180")),
                           Quoted(QStringLiteral("SP2")),
-                          Quoted(notebook ? QStringLiteral("1024x768")
-                                          : v.pick({QStringLiteral("1280x1024"), QStringLiteral("1024x768")})),
+                          Quoted(notebook ? QStringLiteral("1024x768") : v.pick({QStringLiteral("1280x1024"), QStringLiteral("1024x768")})),
                           QString::number(memKb),
                           QString::number(memUsed),
                           QString::number(memKb - memUsed),
@@ -325,23 +303,22 @@ void AddDevices(db::Connection& c, int devices)
                       .toUpper();
         }
         const QString kind = QString::fromUtf8(kinds[k % 6]);
-        c.Execute(
-            QStringLiteral("INSERT INTO tbl_NetworkUnit ([Key], Deleted_Flug, Location_Name, User_Name, Computer_Name, "
-                           "WorkGroup, IPAddress, IPAddress_16num, MacAddress, Manufacturer_Name, Model_Name, "
-                           "Type_Number, Sereals_Number, ID, PassWord) VALUES (%1, 0, '本社%2F', '情報システム', "
-                           "'%3-%4', 'WORKGROUP', '%5', '%6', '00:A0:DE:%7:%8:%9', '%10', 'M-%11', 'T-%11', "
-                           "'S%12', 'admin', 'pw%1')")
-                .arg(k)
-                .arg(1 + k % 4)
-                .arg(kind)
-                .arg(k, 3, 10, QLatin1Char('0'))
-                .arg(address, key)
-                .arg(k / 256 % 256, 2, 16, QLatin1Char('0'))
-                .arg(k % 256, 2, 16, QLatin1Char('0'))
-                .arg(k % 100, 2, 10, QLatin1Char('0'))
-                .arg(QString::fromUtf8(makers[k % 6]))
-                .arg(100 + k % 30)
-                .arg(700000 + k));
+        c.Execute(QStringLiteral("INSERT INTO tbl_NetworkUnit ([Key], Deleted_Flug, Location_Name, User_Name, Computer_Name, "
+                                 "WorkGroup, IPAddress, IPAddress_16num, MacAddress, Manufacturer_Name, Model_Name, "
+                                 "Type_Number, Sereals_Number, ID, PassWord) VALUES (%1, 0, '本社%2F', '情報システム', "
+                                 "'%3-%4', 'WORKGROUP', '%5', '%6', '00:A0:DE:%7:%8:%9', '%10', 'M-%11', 'T-%11', "
+                                 "'S%12', 'admin', 'pw%1')")
+                      .arg(k)
+                      .arg(1 + k % 4)
+                      .arg(kind)
+                      .arg(k, 3, 10, QLatin1Char('0'))
+                      .arg(address, key)
+                      .arg(k / 256 % 256, 2, 16, QLatin1Char('0'))
+                      .arg(k % 256, 2, 16, QLatin1Char('0'))
+                      .arg(k % 100, 2, 10, QLatin1Char('0'))
+                      .arg(QString::fromUtf8(makers[k % 6]))
+                      .arg(100 + k % 30)
+                      .arg(700000 + k));
     }
     t.Commit();
 }
@@ -351,19 +328,16 @@ void AddPrinters(db::Connection& c, int computers)
     db::Transaction t(c);
     for (int k = 1; k <= computers; ++k) {
         const int floor = 1 + k % 4;
-        c.Execute(
-            QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
-                           "VALUES (%1, '2005/12/04', 'EPSON LP-9000C %2F', 'IP_192.168.%2.201')")
-                .arg(k)
-                .arg(floor));
+        c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
+                                 "VALUES (%1, '2005/12/04', 'EPSON LP-9000C %2F', 'IP_192.168.%2.201')")
+                      .arg(k)
+                      .arg(floor));
         if (k % 3 != 0)
-            c.Execute(
-                QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
-                               "VALUES (%1, '2005/12/04', '%2', '%3')")
-                    .arg(k)
-                    .arg(k % 2 ? QStringLiteral("Canon LBP-1310")
-                               : QStringLiteral("Microsoft Office Document Image Writer"),
-                         k % 2 ? QStringLiteral("LPT1:") : QStringLiteral("Ne00:")));
+            c.Execute(QStringLiteral("INSERT INTO tbl_Printer_Management ([Key], [Update], Printer_Name, PrinterPorts_Name) "
+                                     "VALUES (%1, '2005/12/04', '%2', '%3')")
+                          .arg(k)
+                          .arg(k % 2 ? QStringLiteral("Canon LBP-1310") : QStringLiteral("Microsoft Office Document Image Writer"),
+                               k % 2 ? QStringLiteral("LPT1:") : QStringLiteral("Ne00:")));
     }
     t.Commit();
 }

@@ -18,8 +18,8 @@
 namespace AdminExport {
 
 struct List {
-    const char* name;      // the LIST word: "main", "mail", "census-computers" ...
-    const char* synopsis;  // its own options for the usage line ("[--view N]"), or ""
+    const char* name;     // the LIST word: "main", "mail", "census-computers" ...
+    const char* synopsis; // its own options for the usage line ("[--view N]"), or ""
     std::vector<app::CommandLine::Option> options;
     // Fills and writes; the ledger is open, the settings file set. False after a failure, which
     // has been said on standard error: the window's error box through the console dialogs, or

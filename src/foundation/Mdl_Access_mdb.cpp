@@ -20,7 +20,8 @@ bool ConnectDatabase()
     try {
         if (!QFileInfo(app::Path() + QStringLiteral("/pcdb.mdb")).isFile()) {
             if (Mdl_gData::g.StatusPanelText)
-                Mdl_gData::g.StatusPanelText(QStringLiteral("DBファイルが見つかりません。") + vbCrLf + dataSource + QStringLiteral("を確認ください"));
+                Mdl_gData::g.StatusPanelText(QStringLiteral("DBファイルが見つかりません。") + vbCrLf + dataSource
+                                             + QStringLiteral("を確認ください"));
             return false;
         }
         Mdl_gData::ReleaseDbConnection();
@@ -166,12 +167,12 @@ QString SanitizeField(const QString& text)
     // as it is, without a copy (most values of an inventory file).
     static const auto replacement = [] {
         std::array<char16_t, 128> r{};
-        r[u','] = 0x3001;   // 、
-        r[u'\''] = 0x2019;  // ’
-        r[u';'] = 0xFF1B;   // ；
-        r[u'#'] = 0xFF03;   // ＃
-        r[u'\\'] = 0xFFE5;  // ￥
-        r[u':'] = 0xFF1A;   // ：
+        r[u','] = 0x3001;  // 、
+        r[u'\''] = 0x2019; // ’
+        r[u';'] = 0xFF1B;  // ；
+        r[u'#'] = 0xFF03;  // ＃
+        r[u'\\'] = 0xFFE5; // ￥
+        r[u':'] = 0xFF1A;  // ：
         r[u'\n'] = u' ';
         r[u'\r'] = u' ';
         return r;

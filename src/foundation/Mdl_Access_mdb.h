@@ -51,8 +51,7 @@ void StandardErrorBox(const vb::VbError& e);
 // Runs a routine under the handler of the system's data routines: a failure shows
 // StandardErrorBox, closes the recordset and answers failed, leaving whatever the routine had
 // done so far.
-template <typename Result, typename Routine>
-Result WithErrorBox(db::Recordset& rs, Result failed, Routine routine)
+template <typename Result, typename Routine> Result WithErrorBox(db::Recordset& rs, Result failed, Routine routine)
 {
     try {
         return routine();

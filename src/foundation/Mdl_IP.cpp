@@ -16,7 +16,7 @@ QString IpToHex8(const QString& address)
     // The address reaches inet_addr as ANSI text, as a Declare of the Windows function passed it.
     const QByteArray ansi = text::ToCp932(address);
     const in_addr_t a = inet_addr(ansi.constData());
-    const auto* bytes = reinterpret_cast<const unsigned char*>(&a);  // network order: first octet first
+    const auto* bytes = reinterpret_cast<const unsigned char*>(&a); // network order: first octet first
     for (int i = 0; i < 4; ++i)
         result += HexPair(QString::number(bytes[i], 16).toUpper());
     return result;

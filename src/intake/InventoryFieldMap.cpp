@@ -251,7 +251,8 @@ Mdl_Access_mdb::FirstRow FieldLookup(const Mdl_Access_mdb::StagedLines& lines, c
     const int second = Mdl_Access_mdb::StagingColumn(s.secondColumn);
     Mdl_Access_mdb::FirstRow record;
     for (const Mdl_Access_mdb::StagedLine& line : lines) {
-        if (Mdl_Access_mdb::StagedEquals(line[size_t(second)], s.secondValue) && Mdl_Access_mdb::StagedEquals(line[size_t(first)], s.firstValue)) {
+        if (Mdl_Access_mdb::StagedEquals(line[size_t(second)], s.secondValue)
+            && Mdl_Access_mdb::StagedEquals(line[size_t(first)], s.firstValue)) {
             for (size_t i = 0; i < line.size(); ++i)
                 record[i] = Mdl_Access_mdb::SanitizeField(line[i]);
             break;
@@ -270,8 +271,7 @@ QString BulkReadValue(const InventoryFieldRow& row, InventoryLanguage language, 
     case FieldKind::Number: return wholeNumber(value);
     case FieldKind::GuardedNumber: return value.isEmpty() ? QStringLiteral("0") : wholeNumber(value);
     // the two sections of a file write their truths differently, and each row knows only its own
-    case FieldKind::Flag:
-        return value == QLatin1String("1") || value == QLatin1String("TRUE") ? QStringLiteral("1") : QStringLiteral("0");
+    case FieldKind::Flag: return value == QLatin1String("1") || value == QLatin1String("TRUE") ? QStringLiteral("1") : QStringLiteral("0");
     case FieldKind::SettingFlag:
         return value == QLatin1String("1") || value == QLatin1String("True") ? QStringLiteral("1") : QStringLiteral("0");
     case FieldKind::Hex: return Mdl_IP::IpToHex8(value);
@@ -284,10 +284,10 @@ QStringList BulkReadStatements(const InventoryFieldRow& row, const QString& valu
     const QString where = QStringLiteral(" WHERE MainKey = ") + key;
     const QStringView field = row.writtenField(FieldMapPath::BulkRead);
     if (row.kind == FieldKind::Date) {
-        return {QStringLiteral("UPDATE tbl_Computer_List SET ") + QStringLiteral("tbl_Computer_List.[") + field
-                    + QStringLiteral("] = '") + value + QStringLiteral("'") + where,
-                QStringLiteral("UPDATE tbl_Pclist SET ") + QStringLiteral("tbl_Pclist.[") + field + QStringLiteral("] = '")
-                    + value + QStringLiteral("'") + where};
+        return {QStringLiteral("UPDATE tbl_Computer_List SET ") + QStringLiteral("tbl_Computer_List.[") + field + QStringLiteral("] = '")
+                    + value + QStringLiteral("'") + where,
+                QStringLiteral("UPDATE tbl_Pclist SET ") + QStringLiteral("tbl_Pclist.[") + field + QStringLiteral("] = '") + value
+                    + QStringLiteral("'") + where};
     }
     QString left;
     switch (row.form) {

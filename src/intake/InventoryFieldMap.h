@@ -35,9 +35,9 @@ enum class FieldKind {
 
 // How the field is named on the left of SET in the bulk read's UPDATE.
 enum class FieldForm {
-    Bracketed,     // "tbl_Pclist.[Workgroup] = "
-    Unbracketed,   // "tbl_Computer_List.Type_Number = "
-    Unqualified,   // "IPAddress_16num = "
+    Bracketed,   // "tbl_Pclist.[Workgroup] = "
+    Unbracketed, // "tbl_Computer_List.Type_Number = "
+    Unqualified, // "IPAddress_16num = "
 };
 
 // The two conditions that find a record: "first = 'a'  AND second = 'b'".
@@ -51,20 +51,20 @@ struct FieldSelection {
 };
 
 struct InventoryFieldRow {
-    int row;                       // 1 to 107, also the review grid's row
-    QStringView caption;           // the review grid's "項目名"
-    QStringView field;             // the ledger field, as the review grid carries it
+    int row;             // 1 to 107, also the review grid's row
+    QStringView caption; // the review grid's "項目名"
+    QStringView field;   // the ledger field, as the review grid carries it
     FieldKind kind;
-    int position;                  // of the value in FirstRow: 3 SubItem, 4 Contents, 5 Unit
+    int position; // of the value in FirstRow: 3 SubItem, 4 Contents, 5 Unit
     FieldSelection japanese;
-    FieldSelection english = {};   // empty: as japanese
-    int englishPosition = 0;       // 0: as position
+    FieldSelection english = {}; // empty: as japanese
+    int englishPosition = 0;     // 0: as position
     QStringView table = u"tbl_Pclist";
     FieldForm form = FieldForm::Bracketed;
     // Where the bulk read parts from the grid's form of the row:
-    QStringView bulkField = {};    // the field it writes instead (rows 51, 66)
-    QStringView bulkSubItem = {};  // the SubItem it selects instead (row 66)
-    bool bulkSkips = false;        // a repeat it leaves out (row 97)
+    QStringView bulkField = {};   // the field it writes instead (rows 51, 66)
+    QStringView bulkSubItem = {}; // the SubItem it selects instead (row 66)
+    bool bulkSkips = false;       // a repeat it leaves out (row 97)
 
     // The conditions of this row for a reader and a path.
     FieldSelection selection(InventoryLanguage language, FieldMapPath path) const;

@@ -15,8 +15,7 @@ namespace {
 
 // The five codes of a new computer, set to 0 directly behind its name: no location, user,
 // manufacturer, model or asset class until the profile window gives it some.
-const std::array<QStringView, 5> kCodeFields = {u"Location_Code", u"User_Code", u"Manufacturer_Code", u"Model_Code",
-                                                u"Asset_Code"};
+const std::array<QStringView, 5> kCodeFields = {u"Location_Code", u"User_Code", u"Manufacturer_Code", u"Model_Code", u"Asset_Code"};
 
 QString codeStatement(QStringView code, const QString& key)
 {
@@ -47,8 +46,8 @@ struct InventoryReader::GatheredWrite {
         int column;
         bool number;
     };
-    std::array<Table, 2> tables;                  // tbl_Computer_List, tbl_Pclist
-    std::vector<std::vector<Slot>> rowSlots;      // per row of the map: where its value goes
+    std::array<Table, 2> tables;             // tbl_Computer_List, tbl_Pclist
+    std::vector<std::vector<Slot>> rowSlots; // per row of the map: where its value goes
     std::vector<Slot> codeSlots;
     bool triggers = false;
 
@@ -132,7 +131,7 @@ void InventoryReader::writeFieldMap(const QString& key)
         try {
             m_gathered = std::make_unique<GatheredWrite>(c);
         } catch (const vb::VbError&) {
-            walk({});  // the ledger cannot be asked: the statements fail as they fail
+            walk({}); // the ledger cannot be asked: the statements fail as they fail
             return;
         }
     }
@@ -166,13 +165,12 @@ namespace {
 constexpr qint64 kBatchMilliseconds = 250;
 } // namespace
 
-InventoryReader::InventoryReader(InventoryLanguage language, Report onWritten)
-    : m_language(language), m_report(std::move(onWritten))
+InventoryReader::InventoryReader(InventoryLanguage language, Report onWritten) : m_language(language), m_report(std::move(onWritten))
 {
     try {
         m_stageAtCommit = !StagingRunsTriggers(Mdl_gData::DbConnection());
     } catch (const vb::VbError&) {
-        m_stageAtCommit = false;  // the ledger cannot be asked: every file is staged as it is read
+        m_stageAtCommit = false; // the ledger cannot be asked: every file is staged as it is read
     }
 }
 
@@ -182,7 +180,7 @@ void InventoryReader::lose(const vb::VbError& e)
 {
     m_failure = e;
     m_batch.reset();
-    m_staged.reset();  // rolled back with the batch
+    m_staged.reset(); // rolled back with the batch
     m_stagingPending = false;
     for (InventoryFileResult& r : m_pending) {
         r.outcome = InventoryFileResult::NotWritten;
@@ -304,7 +302,7 @@ InventoryRunResult ReadInventoryFiles(const QStringList& paths, InventoryLanguag
     if (next == paths.size())
         reader.Commit();
     else
-        ++next;  // the file whose batch failed was reported with it
+        ++next; // the file whose batch failed was reported with it
     if (reader.Failure() && onFile) {
         for (; next < paths.size(); ++next) {
             InventoryFileResult skipped;

@@ -25,19 +25,19 @@
 // What became of one file.
 struct InventoryFileResult {
     enum Outcome {
-        Read,           // staged and made into the computer mainKey
-        RefusedHeader,  // first line empty or not the header: nothing changed
-        Unreadable,     // could not be opened or read: the computer mainKey was made from what
-                        // tbl_ReadCsv still held
-        NotWritten,     // read, but the ledger could not be written: nothing of it was kept
-        NotAttempted,   // not looked at: the run stopped at a write that failed before it
+        Read,          // staged and made into the computer mainKey
+        RefusedHeader, // first line empty or not the header: nothing changed
+        Unreadable,    // could not be opened or read: the computer mainKey was made from what
+                       // tbl_ReadCsv still held
+        NotWritten,    // read, but the ledger could not be written: nothing of it was kept
+        NotAttempted,  // not looked at: the run stopped at a write that failed before it
     };
     QString path;
     Outcome outcome = Read;
-    std::int16_t mainKey = 0;  // the key written to (Read, Unreadable)
-    bool keyOverflow = false;  // the highest key was 32767: no new key, the previous one was
-                               // written to again
-    QString reason;            // Unreadable, NotWritten, NotAttempted: the error's description
+    std::int16_t mainKey = 0; // the key written to (Read, Unreadable)
+    bool keyOverflow = false; // the highest key was 32767: no new key, the previous one was
+                              // written to again
+    QString reason;           // Unreadable, NotWritten, NotAttempted: the error's description
 };
 
 // What a run came to. failure is set when the ledger could not be written; the run stopped
@@ -94,15 +94,15 @@ private:
     Report m_report;
     std::int16_t m_key = 0;
     std::unique_ptr<db::Transaction> m_batch;
-    std::vector<InventoryFileResult> m_pending;  // read into the open batch, not yet reported
+    std::vector<InventoryFileResult> m_pending; // read into the open batch, not yet reported
     std::optional<vb::VbError> m_failure;
     QElapsedTimer m_batchAge;
     // The lines tbl_ReadCsv holds, when this run wrote them whole; unknown before the first file
     // and after a write that failed.
     std::optional<Mdl_Access_mdb::StagedLines> m_staged;
-    bool m_stagingPending = false;  // m_staged is still to be written to tbl_ReadCsv
-    bool m_stageAtCommit = false;   // staging may wait for the commit (no trigger on it)
-    std::unique_ptr<GatheredWrite> m_gathered;  // made at the first computer
+    bool m_stagingPending = false;             // m_staged is still to be written to tbl_ReadCsv
+    bool m_stageAtCommit = false;              // staging may wait for the commit (no trigger on it)
+    std::unique_ptr<GatheredWrite> m_gathered; // made at the first computer
 };
 
 // ReadInventoryFiles: the run that both read commands share, file by file in the given order.

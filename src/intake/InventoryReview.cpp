@@ -179,8 +179,8 @@ bool FillReadColumn(ui::FlexGrid& grid)
         SetComparisonGrid(grid);
         for (const InventoryFieldRow& row : InventoryFieldMap()) {
             writeRowHead(grid, row, false);
-            const Mdl_Access_mdb::FirstRow record = Mdl_Access_mdb::OpenRecordsetFirstRow(
-                FieldLookupSql(row.selection(InventoryLanguage::Japanese, FieldMapPath::Review)));
+            const Mdl_Access_mdb::FirstRow record =
+                Mdl_Access_mdb::OpenRecordsetFirstRow(FieldLookupSql(row.selection(InventoryLanguage::Japanese, FieldMapPath::Review)));
             if (const std::optional<QString> value = fileValue(row, record))
                 setCell(grid, row.row, FileValue, *value);
         }
@@ -197,8 +197,8 @@ ui::FillResult FillApplicationGrid(ui::FlexGrid& grid)
 {
     // a failure leaves the grid hidden with what was filled, until the next fill
     return RunListFill(grid, [&grid](db::Recordset& rs) {
-        rs.Open(QStringLiteral("SELECT tbl_ReadCsv.* FROM tbl_ReadCsv  WHERE ((tbl_ReadCsv.Item = 'Application') );"),
-                DbConnection(), db::adOpenStatic, db::adLockOptimistic);
+        rs.Open(QStringLiteral("SELECT tbl_ReadCsv.* FROM tbl_ReadCsv  WHERE ((tbl_ReadCsv.Item = 'Application') );"), DbConnection(),
+                db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() == 0)
             return ui::FillResult::NoRows;
         grid.SetVisible(false);

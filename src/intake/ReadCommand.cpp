@@ -22,8 +22,7 @@ QString describe(const InventoryFileResult& r)
                                 : key + QStringLiteral(" made from the staged file"));
     case InventoryFileResult::NotWritten:
         return r.path + QStringLiteral(": not read, the ledger could not be written (") + r.reason + QStringLiteral(")");
-    case InventoryFileResult::NotAttempted:
-        return r.path + QStringLiteral(": not read, the read stopped at the failed write");
+    case InventoryFileResult::NotAttempted: return r.path + QStringLiteral(": not read, the read stopped at the failed write");
     }
     return r.path;
 }

@@ -20,8 +20,7 @@ namespace {
 // The seven fields of one inventory line, in the file's order.
 enum CsvField { Key, Group, Item, SubItem, Contents, Unit, Renewalday, CsvFieldCount };
 
-const std::array<QStringView, CsvFieldCount> kFieldNames = {u"Key", u"Group", u"Item", u"SubItem",
-                                                            u"Contents", u"Unit", u"Renewalday"};
+const std::array<QStringView, CsvFieldCount> kFieldNames = {u"Key", u"Group", u"Item", u"SubItem", u"Contents", u"Unit", u"Renewalday"};
 
 // Splits a line the way the inventory tool's files are read: no quoting and no escape. Each of
 // the first six fields is cut off at the next comma; a field that finds no comma stays empty and
@@ -36,7 +35,7 @@ StagedLine splitLine(const StagedLines& lines, qsizetype begin, qsizetype end)
         return at < 0 ? -1 : from + at;
     };
     StagedLine f;
-    qsizetype rest = end;  // no comma: nothing remains for the fields after Key
+    qsizetype rest = end; // no comma: nothing remains for the fields after Key
     const qsizetype first = commaIn(begin);
     if (first >= 0) {
         f[Key] = lines.field(begin, qMin<qsizetype>(first - begin, 254));
@@ -89,7 +88,7 @@ std::optional<StagedLines> ReadInventoryLines(const QString& path)
     const qsizetype size = bytes.size();
     QString text;
     text.reserve(size);
-    std::vector<std::pair<qsizetype, qsizetype>> spans;  // [begin, end) of each line in text
+    std::vector<std::pair<qsizetype, qsizetype>> spans; // [begin, end) of each line in text
     qsizetype at = 0;
     while (at < size) {
         qsizetype end = at;
@@ -118,8 +117,8 @@ std::optional<StagedLines> ReadInventoryLines(const QString& path)
 
 namespace {
 
-const QString kInsertStaged = QStringLiteral(
-    "INSERT INTO tbl_ReadCsv (\"Key\", \"Group\", Item, SubItem, Contents, Unit, Renewalday) VALUES (?, ?, ?, ?, ?, ?, ?)");
+const QString kInsertStaged =
+    QStringLiteral("INSERT INTO tbl_ReadCsv (\"Key\", \"Group\", Item, SubItem, Contents, Unit, Renewalday) VALUES (?, ?, ?, ?, ?, ?, ?)");
 
 } // namespace
 

@@ -11,7 +11,7 @@ class QWidget;
 namespace ui {
 class FlexGrid;
 class ListBox;
-}
+} // namespace ui
 
 // The review of one inventory file against a computer that is already in the ledger: the user
 // chooses the computer in the list (its stored values fill column 3 of the grid), reads a file

@@ -1,7 +1,7 @@
 #include "intake/frm_Open.h"
 
-#include "foundation/Mdl_gData.h"
 #include "foundation/Mdl_Access_mdb.h"
+#include "foundation/Mdl_gData.h"
 #include "intake/DirListBox.h"
 #include "intake/DriveListBox.h"
 #include "intake/FileListBox.h"
@@ -50,8 +50,7 @@ void frm_Open::buildMenus()
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", QStringLiteral("ファイル"));
     Mnu_ReadCSV = ui::AddMenuItem(Mnu_File, "Mnu_ReadCSV", "Sondex ファイル読込み", [this] { Mnu_ReadCSV_Click(); });
     // the blank is the caption's
-    Mnu_Read_English =
-        ui::AddMenuItem(Mnu_File, "Mnu_Read_English", "Read Sondex Data (English) ", [this] { Mnu_Read_English_Click(); });
+    Mnu_Read_English = ui::AddMenuItem(Mnu_File, "Mnu_Read_English", "Read Sondex Data (English) ", [this] { Mnu_Read_English_Click(); });
     Mnu_Close = ui::AddMenuItem(Mnu_File, "Mnu_Close", "閉じる", [this] { Mnu_Close_Click(); });
 }
 
@@ -130,7 +129,7 @@ void frm_Open::Form_Load()
         const QSignalBlocker quiet(Drive1);
         Drive1->SetDrive(folder);
     }
-    Dir1->SetPath(folder);   // Dir1_Change lists the folder in File1
+    Dir1->SetPath(folder); // Dir1_Change lists the folder in File1
     File1->SetPath(folder);
     File1->SetPattern(QStringLiteral("*.csv"));
     Mnu_ReadCSV->setEnabled(false);

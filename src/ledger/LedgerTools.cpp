@@ -41,8 +41,7 @@ Db openFile(const QString& path, int flags, QString& error)
 
 // Runs a query and hands each row's first column to onRow (as text); the SQLite error text, or
 // an empty string.
-template <typename F>
-QString eachRow(sqlite3* db, const char* sql, F&& onRow)
+template <typename F> QString eachRow(sqlite3* db, const char* sql, F&& onRow)
 {
     sqlite3_stmt* st = nullptr;
     int rc = sqlite3_prepare_v2(db, sql, -1, &st, nullptr);
@@ -129,20 +128,27 @@ namespace {
 // One consistency rule: a query for the keys of the rows that break it.
 struct Probe {
     const char* table;
-    const char* fault;  // what is wrong with each row found
+    const char* fault; // what is wrong with each row found
     const char* keyName;
     const char* sql;
 };
 
 #define COMPUTER_KEYS "(SELECT MainKey FROM tbl_Computer_List)"
-#define ORPHANS(table) \
-    {table, "rows whose Key names no computer", "Key", "SELECT \"Key\" FROM " table " WHERE \"Key\" NOT IN " COMPUTER_KEYS " ORDER BY 1"}
-#define UNKNOWN_CODE(table, key, code, master)                                                                   \
-    {table, "rows whose " code " names no row of " master, key,                                                 \
-     "SELECT " key " FROM " table " WHERE " code " IS NOT NULL AND " code " NOT IN (SELECT " code " FROM " master \
-     ") ORDER BY 1"}
-#define WIDE_KEY(table, key) \
-    {table, "keys beyond -32768 to 32767", key, "SELECT \"" key "\" FROM " table " WHERE \"" key "\" NOT BETWEEN -32768 AND 32767 ORDER BY 1"}
+#define ORPHANS(table)                                                                                                                     \
+    {                                                                                                                                      \
+        table, "rows whose Key names no computer", "Key",                                                                                  \
+            "SELECT \"Key\" FROM " table " WHERE \"Key\" NOT IN " COMPUTER_KEYS " ORDER BY 1"                                              \
+    }
+#define UNKNOWN_CODE(table, key, code, master)                                                                                             \
+    {                                                                                                                                      \
+        table, "rows whose " code " names no row of " master, key,                                                                         \
+            "SELECT " key " FROM " table " WHERE " code " IS NOT NULL AND " code " NOT IN (SELECT " code " FROM " master ") ORDER BY 1"    \
+    }
+#define WIDE_KEY(table, key)                                                                                                               \
+    {                                                                                                                                      \
+        table, "keys beyond -32768 to 32767", key,                                                                                         \
+            "SELECT \"" key "\" FROM " table " WHERE \"" key "\" NOT BETWEEN -32768 AND 32767 ORDER BY 1"                                  \
+    }
 
 const Probe kProbes[] = {
     {"tbl_Pclist", "rows without their tbl_Computer_List row", "MainKey",
@@ -218,7 +224,7 @@ CheckReport CheckLedger(const QString& path)
 
     for (const Probe& p : kProbes) {
         qsizetype count = 0;
-        QStringList keys;  // the first few, in order
+        QStringList keys; // the first few, in order
         QSet<QString> distinct;
         const QString error = eachRow(db.get(), p.sql, [&](const QString& key) {
             ++count;

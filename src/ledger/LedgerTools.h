@@ -16,9 +16,9 @@ QString BackupLedger(const QString& from, const QString& to);
 
 // What a check found.
 struct CheckReport {
-    bool opened = false;   // false: the file is no ledger or cannot be opened (error says why)
+    bool opened = false; // false: the file is no ledger or cannot be opened (error says why)
     QString error;
-    QStringList faults;    // one line per kind of fault, with its table, a count and the first keys
+    QStringList faults; // one line per kind of fault, with its table, a count and the first keys
 };
 
 // SQLite's integrity check, then the ledger's own consistency: inventory and administrative rows

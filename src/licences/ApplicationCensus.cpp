@@ -12,17 +12,16 @@
 
 namespace ApplicationCensus {
 
-using Mdl_Sub::FieldText;
 using LicenceRoutines::SetCell;
+using Mdl_Sub::FieldText;
 
 namespace {
-
 
 struct Column {
     const char* heading;
     int width;
-    const char16_t* field;       // nullptr for the running number
-    const char16_t* flagField;   // the master's Available_flug: gray when "1"
+    const char16_t* field;     // nullptr for the running number
+    const char16_t* flagField; // the master's Available_flug: gray when "1"
 };
 
 const Column kCensusColumns[] = {
@@ -42,8 +41,7 @@ const Column kComputerColumns[] = {
 };
 
 // The heading row: gray, centred at the bottom; the widths.
-template <size_t N>
-void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
+template <size_t N> void setHeadings(ui::FlexGrid& grid, const Column (&columns)[N])
 {
     for (int c = 0; c < int(N); ++c) {
         SetCell(grid, 0, c, QString::fromUtf8(columns[c].heading), ui::qbGray, ui::flexAlignCenterBottom);
@@ -79,21 +77,20 @@ ui::FillResult FillCensusGrid(ui::FlexGrid& grid)
 
 QString ComputersSql(const QString& applicationName, std::int16_t location)
 {
-    QString sql = QStringLiteral(
-                      "SELECT DISTINCT tbl_Pclist.*, tbl_ApplicationsList.Application_Name, tbl_ApplicationsList.Application_Version, "
-                      "tbl_Location.*, tbl_Section.*, tbl_Division.*, tbl_User.*, tbl_Manufacturer.*, tbl_Model.* FROM tbl_Pclist, "
-                      "tbl_ApplicationsList, tbl_Computer_List, tbl_Section, tbl_Location, tbl_Division, tbl_User, tbl_Manufacturer, "
-                      "tbl_Model WHERE ((Application_Name = '")
-                  + applicationName
-                  + QStringLiteral(
-                      "') AND ((tbl_Pclist.MainKey)=([tbl_ApplicationsList].[Key])) AND ((tbl_Pclist.MainKey = "
-                      "tbl_Computer_List.MainKey)) AND ((tbl_Computer_List.Deleted_Flug = 0)) AND "
-                      "((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "
-                      "((tbl_User.Section_Code)=([tbl_Section].[Section_Code])) AND "
-                      "((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND "
-                      "((tbl_Computer_List.User_Code)=([tbl_User].[User_Code])) AND "
-                      "((tbl_Computer_List.Manufacturer_Code)=([tbl_Manufacturer].[Manufacturer_Code])) AND "
-                      "((tbl_Computer_List.Model_Code)=([tbl_Model].[Model_Code]))");
+    QString sql =
+        QStringLiteral("SELECT DISTINCT tbl_Pclist.*, tbl_ApplicationsList.Application_Name, tbl_ApplicationsList.Application_Version, "
+                       "tbl_Location.*, tbl_Section.*, tbl_Division.*, tbl_User.*, tbl_Manufacturer.*, tbl_Model.* FROM tbl_Pclist, "
+                       "tbl_ApplicationsList, tbl_Computer_List, tbl_Section, tbl_Location, tbl_Division, tbl_User, tbl_Manufacturer, "
+                       "tbl_Model WHERE ((Application_Name = '")
+        + applicationName
+        + QStringLiteral("') AND ((tbl_Pclist.MainKey)=([tbl_ApplicationsList].[Key])) AND ((tbl_Pclist.MainKey = "
+                         "tbl_Computer_List.MainKey)) AND ((tbl_Computer_List.Deleted_Flug = 0)) AND "
+                         "((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "
+                         "((tbl_User.Section_Code)=([tbl_Section].[Section_Code])) AND "
+                         "((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND "
+                         "((tbl_Computer_List.User_Code)=([tbl_User].[User_Code])) AND "
+                         "((tbl_Computer_List.Manufacturer_Code)=([tbl_Manufacturer].[Manufacturer_Code])) AND "
+                         "((tbl_Computer_List.Model_Code)=([tbl_Model].[Model_Code]))");
     if (location > 0)
         sql += QStringLiteral(" AND (tbl_Computer_List.Location_Code= ") + QString::number(location) + QStringLiteral(")");
     sql += QStringLiteral(")ORDER BY Computer_Name;");

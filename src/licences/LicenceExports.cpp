@@ -101,6 +101,6 @@ AdminExport::List CensusExport() { return {"census", "", {}, writeCensus}; }
 
 AdminExport::List CensusComputersExport()
 {
-    return {"census-computers", "--application NAME [--location CODE]", {{"--application", true}, {"--location", true}},
-            writeCensusComputers};
+    return {
+        "census-computers", "--application NAME [--location CODE]", {{"--application", true}, {"--location", true}}, writeCensusComputers};
 }

@@ -10,11 +10,10 @@
 
 namespace LicenseAssignment {
 
-using Mdl_Sub::FieldText;
 using LicenceRoutines::SetCell;
+using Mdl_Sub::FieldText;
 
 namespace {
-
 
 // When a cell of the column turns gray: never, when the computer is retired, or when the master
 // entry behind it is deleted (its Available_flug, named in flagField, is "1").
@@ -23,7 +22,7 @@ enum class GrayWhen { Never, Retired, DeletedMaster };
 struct AssignmentColumn {
     const char* heading;
     int width;
-    const char16_t* field;   // nullptr for the running number
+    const char16_t* field; // nullptr for the running number
     GrayWhen gray;
     const char16_t* flagField;
 };

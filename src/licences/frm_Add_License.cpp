@@ -34,7 +34,6 @@ namespace {
 constexpr int kWidth = 5940;
 constexpr int kHeight = 7020;
 
-
 struct LicenseColumn {
     const char* heading;
     const char16_t* field;
@@ -170,10 +169,7 @@ bool frm_Add_License::FillLicenseGrid()
     return filled;
 }
 
-void frm_Add_License::PaintLicenseRow(std::int16_t row, std::int16_t qbColour)
-{
-    ui::PaintGridRow(*MSFlexGrid_License, row, qbColour, 0);
-}
+void frm_Add_License::PaintLicenseRow(std::int16_t row, std::int16_t qbColour) { ui::PaintGridRow(*MSFlexGrid_License, row, qbColour, 0); }
 
 void frm_Add_License::MSFlexGrid_License_Click()
 {

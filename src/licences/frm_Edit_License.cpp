@@ -35,7 +35,6 @@ using Mdl_Sub::FieldText;
 
 namespace {
 
-
 // The grid's place in the client area and the allowances of its size, in twips.
 constexpr int kGridLeft = 4680;
 constexpr int kGridTop = 720;
@@ -111,8 +110,8 @@ void frm_Edit_License::buildMenus()
     View_MSFlexGrid_License_assignment_Update = AddMenuItem(Mnu_View, "View_MSFlexGrid_License_assignment_Update", "一覧更新",
                                                             [this] { View_MSFlexGrid_License_assignment_Update_Click(); });
     Mnu_Managements = ui::AddMenu(MenuBar, "Mnu_Managements", QStringLiteral("管理"));
-    Add_ApplicationName = AddMenuItem(Mnu_Managements, "Add_ApplicationName", "アプリケーションの登録",
-                                      [this] { Add_ApplicationName_Click(); });
+    Add_ApplicationName =
+        AddMenuItem(Mnu_Managements, "Add_ApplicationName", "アプリケーションの登録", [this] { Add_ApplicationName_Click(); });
 }
 
 void frm_Edit_License::buildControls()
@@ -181,8 +180,8 @@ void frm_Edit_License::buildControls()
     entry->setRowStretch(row++, 3);
     entry->addWidget(tbx_ComputerName, row++, 0, 1, 2);
     const std::pair<const char*, QWidget*> fields[] = {
-        {"プロダクトID", tbx_ProductID},     {"ライセンス番号", tbx_Licence_No}, {"インストールKey", tbx_Install_Key},
-        {"購入形態", cmb_Payment_Type},      {"ライセンス形態", cmb_AssetType},  {"単価", tbx_Purchase_Price},
+        {"プロダクトID", tbx_ProductID}, {"ライセンス番号", tbx_Licence_No}, {"インストールKey", tbx_Install_Key},
+        {"購入形態", cmb_Payment_Type},  {"ライセンス形態", cmb_AssetType},  {"単価", tbx_Purchase_Price},
         {"コメント", tbx_Comment},
     };
     for (const auto& [label, control] : fields) {
@@ -325,8 +324,8 @@ bool frm_Edit_License::View_ComputerNameList()
 bool frm_Edit_License::View_LicenseAssignment()
 {
     try {
-        const ui::FillResult result = LicenseAssignment::FillAssignmentGrid(*FGrid_EditLicense, keyOf(*tbx_Application),
-                                                                            keyOf(*tbx_Location));
+        const ui::FillResult result =
+            LicenseAssignment::FillAssignmentGrid(*FGrid_EditLicense, keyOf(*tbx_Application), keyOf(*tbx_Location));
         if (result == ui::FillResult::Rows)
             GridReady = true;
         return result == ui::FillResult::Rows;
@@ -395,8 +394,8 @@ void frm_Edit_License::List_ComuputerName_Click()
 
 void frm_Edit_License::cmb_Application_DropDown()
 {
-    fillFilterCombo(*cmb_Application, QStringLiteral("SELECT * FROM tbl_License_Key ORDER BY Application_Name;"),
-                    u"Application_Name", u"Key");
+    fillFilterCombo(*cmb_Application, QStringLiteral("SELECT * FROM tbl_License_Key ORDER BY Application_Name;"), u"Application_Name",
+                    u"Key");
 }
 
 void frm_Edit_License::cmb_Location_DropDown()
@@ -469,12 +468,11 @@ void frm_Edit_License::Mnu_AddRecord_Click()
     db::Transaction insert(c);
     c.Execute(QStringLiteral("INSERT INTO tbl_License_Dat ( [Key], Application_Code, Computer_Code, ProductID, Licence_No, "
                              "Install_Key, Payment_Type, Asset_Type, Purchase_Price, Comment, [Update] ) VALUES ( ")
-              + QString::number(key) + QStringLiteral(", ") + tbx_LicenseKey->text() + QStringLiteral(", ")
-              + tbx_ComputerKey->text() + QStringLiteral(", '") + tbx_ProductID->text() + QStringLiteral("', '")
-              + tbx_Licence_No->text() + QStringLiteral("', '") + tbx_Install_Key->text() + QStringLiteral("', '")
-              + cmb_Payment_Type->currentText() + QStringLiteral("', '") + cmb_AssetType->currentText() + QStringLiteral("', ")
-              + QString::number(price) + QStringLiteral(", '") + tbx_Comment->text().left(50) + QStringLiteral("', '")
-              + vb::CStr(vb::Variant(today())) + QStringLiteral("' );"));
+              + QString::number(key) + QStringLiteral(", ") + tbx_LicenseKey->text() + QStringLiteral(", ") + tbx_ComputerKey->text()
+              + QStringLiteral(", '") + tbx_ProductID->text() + QStringLiteral("', '") + tbx_Licence_No->text() + QStringLiteral("', '")
+              + tbx_Install_Key->text() + QStringLiteral("', '") + cmb_Payment_Type->currentText() + QStringLiteral("', '")
+              + cmb_AssetType->currentText() + QStringLiteral("', ") + QString::number(price) + QStringLiteral(", '")
+              + tbx_Comment->text().left(50) + QStringLiteral("', '") + vb::CStr(vb::Variant(today())) + QStringLiteral("' );"));
     insert.Commit();
     View_LicenseAssignment();
     ClearAssignmentEntry();

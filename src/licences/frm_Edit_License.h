@@ -15,7 +15,7 @@ class QMenuBar;
 namespace ui {
 class DropDownCombo;
 class FlexGrid;
-}
+} // namespace ui
 
 // Which purchased application sits on which computer: the purchased applications and the live
 // computers in two lists, the assignments in a grid beside them, filtered by application and by

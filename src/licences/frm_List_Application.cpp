@@ -23,7 +23,6 @@
 
 namespace {
 
-
 // the grids' place and allowances, in twips
 constexpr int kGridTop = 450;
 constexpr int kCensusLeft = 100;
@@ -125,8 +124,7 @@ void frm_List_Application::placeControls(int width, int height)
     const int nameWidth = census.Width() - kCountWidth - 60;
     place(tbx_ApplicationName, kCensusLeft, kStripTop, nameWidth, kStripHeight);
     place(tbx_ApplicationNum, kCensusLeft + nameWidth + 60, kStripTop, kCountWidth, kStripHeight);
-    place(m_locationLabel, computersLeft, kStripTop + 45, kLocationLabelWidth,
-          kStripHeight - 45);
+    place(m_locationLabel, computersLeft, kStripTop + 45, kLocationLabelWidth, kStripHeight - 45);
     place(cmb_Location, computersLeft + kLocationLabelWidth, kStripTop, kLocationWidth, kStripHeight);
 }
 

@@ -15,7 +15,7 @@ class QMenuBar;
 namespace ui {
 class DropDownCombo;
 class FlexGrid;
-}
+} // namespace ui
 
 // The application census: how many live computers carry each application name, from the
 // inventory rows of tbl_ApplicationsList, and, for the name clicked, which computers those are,

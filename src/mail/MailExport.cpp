@@ -43,9 +43,8 @@ void writeAddressBook(const ui::FlexGrid& grid, text::AnsiFile& file, int lastRo
     file.WriteLine(QStringLiteral("表示名,電子メール アドレス,オフィスの場所,部署名,メモ"));
     for (int row = 1; row <= lastRow; ++row) {
         const auto cell = [&](int col) { return grid.TextMatrix(row, col); };
-        const QString line = cell(MailList::UserName) + u',' + cell(MailList::MailAddress) + u','
-                             + cell(MailList::LocationName) + u',' + cell(MailList::SectionName)
-                             + cell(MailList::DivisionName) + u',' + cell(MailList::ComputerName);
+        const QString line = cell(MailList::UserName) + u',' + cell(MailList::MailAddress) + u',' + cell(MailList::LocationName) + u','
+                             + cell(MailList::SectionName) + cell(MailList::DivisionName) + u',' + cell(MailList::ComputerName);
         file.WriteLine(line);
     }
 }
@@ -69,15 +68,9 @@ void WriteGrid(const ui::FlexGrid& grid, Form form, const QString& path)
     text::AnsiFile file(path);
     const int lastRow = grid.Rows() - 1;
     switch (form) {
-    case Form::FullList:
-        writeFullList(grid, file, lastRow, grid.Cols() - 1);
-        break;
-    case Form::AddressBook:
-        writeAddressBook(grid, file, lastRow);
-        break;
-    case Form::BeatBox:
-        writeBeatBox(grid, file, lastRow);
-        break;
+    case Form::FullList: writeFullList(grid, file, lastRow, grid.Cols() - 1); break;
+    case Form::AddressBook: writeAddressBook(grid, file, lastRow); break;
+    case Form::BeatBox: writeBeatBox(grid, file, lastRow); break;
     }
     file.Close();
 }

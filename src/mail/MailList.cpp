@@ -17,7 +17,6 @@ using Mdl_Sub::FieldText;
 
 namespace {
 
-
 // Columns 1 to 17: heading, width in twips, the field of the list's record, and the flag of the
 // master whose retirement turns the cell gray.
 struct MailColumn {
@@ -154,8 +153,9 @@ std::vector<MailChoice> read(const QString& sql, const char16_t* keyField, RowTe
 std::vector<MailChoice> Locations()
 {
     std::vector<MailChoice> out{{QStringLiteral(" "), 0}};
-    const auto more = read(QStringLiteral("SELECT * FROM tbl_Location WHERE (Available_Flug ='0') ORDER BY Location_Code; "),
-                           u"Location_Code", [](db::Recordset& rs) -> std::optional<QString> { return FieldText(rs.Fields(u"Location_Name").Value()); });
+    const auto more =
+        read(QStringLiteral("SELECT * FROM tbl_Location WHERE (Available_Flug ='0') ORDER BY Location_Code; "), u"Location_Code",
+             [](db::Recordset& rs) -> std::optional<QString> { return FieldText(rs.Fields(u"Location_Name").Value()); });
     out.insert(out.end(), more.begin(), more.end());
     return out;
 }
@@ -175,8 +175,8 @@ std::vector<MailChoice> Computers()
 
 std::vector<MailChoice> Users()
 {
-    return read(QStringLiteral("SELECT * FROM tbl_User WHERE Available_flug ='0'ORDER BY Section_Code, Division_Code;"),
-                u"User_Code", [](db::Recordset& rs) -> std::optional<QString> {
+    return read(QStringLiteral("SELECT * FROM tbl_User WHERE Available_flug ='0'ORDER BY Section_Code, Division_Code;"), u"User_Code",
+                [](db::Recordset& rs) -> std::optional<QString> {
                     const QString name = FieldText(rs.Fields(u"User_Name").Value());
                     if (name.isEmpty() || FieldText(rs.Fields(u"User_Code").Value()).isEmpty())
                         return std::nullopt;

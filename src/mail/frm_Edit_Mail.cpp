@@ -30,7 +30,6 @@ using Mdl_gData::DbConnection;
 
 namespace {
 
-
 // the grid's place in the client area and the room the window keeps around it, in twips
 constexpr int kGridLeft = 120;
 constexpr int kGridTop = 2280;
@@ -45,10 +44,14 @@ struct MailBox {
     int column;
 };
 constexpr MailBox kBoxes[] = {
-    {0, u"beat_loginID", "ログインID", 2},         {1, u"Windows_UserName", "Windowsユーザ名", 5},
-    {2, u"beat_loginPassward", "パスワード", 6},    {3, u"Mail_Address", "メールアドレス", 7},
-    {4, u"SMTP_IPAddress", "SMTP Server", 8},      {5, u"POP3_IPAddress", "POP Server", 9},
-    {6, u"Mailbox_AccountName", "Mailアカウント", 10}, {7, u"Mailbox_Password", "Mailパスワード", 11},
+    {0, u"beat_loginID", "ログインID", 2},
+    {1, u"Windows_UserName", "Windowsユーザ名", 5},
+    {2, u"beat_loginPassward", "パスワード", 6},
+    {3, u"Mail_Address", "メールアドレス", 7},
+    {4, u"SMTP_IPAddress", "SMTP Server", 8},
+    {5, u"POP3_IPAddress", "POP Server", 9},
+    {6, u"Mailbox_AccountName", "Mailアカウント", 10},
+    {7, u"Mailbox_Password", "Mailパスワード", 11},
 };
 
 // the boxes stand in two rows of four beside their labels, below the three combos
@@ -188,10 +191,7 @@ std::int16_t frm_Edit_Mail::locationFilter() const
     return code.isEmpty() ? std::int16_t(0) : vb::CInt(vb::Variant(code));
 }
 
-QString frm_Edit_Mail::selectedKey() const
-{
-    return MSFlexGrid_Mail->TextMatrix(m_list->SelectedRow, MailList::Key);
-}
+QString frm_Edit_Mail::selectedKey() const { return MSFlexGrid_Mail->TextMatrix(m_list->SelectedRow, MailList::Key); }
 
 void frm_Edit_Mail::ClearMailEntry()
 {
@@ -270,8 +270,8 @@ void frm_Edit_Mail::Mnu_AddRecord_Click()
     const std::int16_t key = vb::IntAdd(Mdl_Access_mdb::MaxOfFirstColumn(QStringLiteral("tbl_Mail_Management")), 1);
     db::Connection& c = DbConnection();
     db::Transaction insert(c);
-    c.Execute(QStringLiteral("INSERT INTO tbl_Mail_Management( [Key] ,User_Code ,Conputer_Code ) VALUES ( ")
-              + QString::number(key) + QStringLiteral(",0,0 );"));
+    c.Execute(QStringLiteral("INSERT INTO tbl_Mail_Management( [Key] ,User_Code ,Conputer_Code ) VALUES ( ") + QString::number(key)
+              + QStringLiteral(",0,0 );"));
     insert.Commit();
     m_list->View_MailList(locationFilter());
     m_list->ResetMailSelection();

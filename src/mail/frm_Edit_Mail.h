@@ -15,7 +15,7 @@ class QMenuBar;
 namespace ui {
 class DropDownCombo;
 class FlexGrid;
-}
+} // namespace ui
 
 // The mail register: one row per mail account, with the user and computer it belongs to, the
 // beat-box login, the mail address, servers and mail box login (passwords in clear, as the ledger

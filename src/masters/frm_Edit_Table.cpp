@@ -30,7 +30,6 @@ namespace {
 constexpr int kWidth = 5940;
 constexpr int kHeight = 7020;
 
-
 // the first four fields of every master table
 enum Field { Code = 0, Name = 1, Comment = 2, Flag = 3 };
 
@@ -44,7 +43,8 @@ frm_Edit_Table::frm_Edit_Table()
     setObjectName(QStringLiteral("frm_Edit_Table"));
     MenuBar = ui::AddMenuBar(this);
     Mnu_File = ui::AddMenu(MenuBar, "Mnu_File", QStringLiteral("ファイル"));
-    Mue_Close = ui::AddMenuItem(Mnu_File, "Mue_Close", "閉じる", [this] { Mue_Close_Click(); }, QKeySequence(Qt::CTRL | Qt::Key_W));
+    Mue_Close = ui::AddMenuItem(
+        Mnu_File, "Mue_Close", "閉じる", [this] { Mue_Close_Click(); }, QKeySequence(Qt::CTRL | Qt::Key_W));
     Mnu_Edit = ui::AddMenu(MenuBar, "Mnu_Edit", QStringLiteral("編集"));
     Mnu_Add = ui::AddMenuItem(Mnu_Edit, "Mnu_Add", "新規", [this] { Mnu_Add_Click(); });
     ui::AddMenuSeparator(Mnu_Edit, "cepalator03");
@@ -118,8 +118,7 @@ void frm_Edit_Table::fillGrid()
     const QStringList names = fieldNames();
     db::Recordset rs;
     rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM ") + m_table + QStringLiteral(" WHERE ") + names.value(Flag)
-                + QStringLiteral("=") + QStringLiteral("'0'") + QStringLiteral(" ORDER BY ") + names.value(Code)
-                + QStringLiteral(";"),
+                + QStringLiteral("=") + QStringLiteral("'0'") + QStringLiteral(" ORDER BY ") + names.value(Code) + QStringLiteral(";"),
             DbConnection(), db::adOpenStatic, db::adLockOptimistic);
 
     ui::FlexGrid& grid = *MSFlexGrid_Edit;
@@ -196,9 +195,9 @@ void frm_Edit_Table::Mnu_Add_Click()
     const std::int16_t code = highest >= 0 ? vb::IntAdd(highest, 1) : std::int16_t(0);
     db::Connection& c = DbConnection();
     db::Transaction insert(c);
-    c.Execute(QStringLiteral("INSERT INTO ") + m_table + QStringLiteral(" ( ") + names.value(Code) + QStringLiteral(",")
-              + names.value(Flag) + QStringLiteral(") ") + QStringLiteral("VALUES ( ") + QString::number(code)
-              + QStringLiteral(",") + QStringLiteral("0") + QStringLiteral(" );"));
+    c.Execute(QStringLiteral("INSERT INTO ") + m_table + QStringLiteral(" ( ") + names.value(Code) + QStringLiteral(",") + names.value(Flag)
+              + QStringLiteral(") ") + QStringLiteral("VALUES ( ") + QString::number(code) + QStringLiteral(",") + QStringLiteral("0")
+              + QStringLiteral(" );"));
     insert.Commit();
     fillGrid();
 }
@@ -236,8 +235,8 @@ void frm_Edit_Table::Mnu_Delete_Click()
     const QString name = fieldNames().value(Code);
     const QString key = tbxEdit[0]->text();
     db::Recordset rs;
-    rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM ") + m_table + QStringLiteral(" WHERE ") + name
-                + QStringLiteral(" = ") + key,
+    rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM ") + m_table + QStringLiteral(" WHERE ") + name + QStringLiteral(" = ")
+                + key,
             DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     if (rs.RecordCount() > 0) {
         rs.Fields(u"Available_flug") = vb::Variant(QStringLiteral("1"));

@@ -29,7 +29,6 @@ using Mdl_Sub::FieldText;
 
 namespace {
 
-
 // the grid's place and height in the client area, in twips
 constexpr int kGridLeft = 120;
 constexpr int kGridTop = 120;
@@ -57,8 +56,7 @@ const UserColumn kColumns[] = {
 constexpr int kCols = int(std::size(kColumns)) + 1;
 
 // The fields behind tbxEdit 3 to 8, in the order an update writes them.
-const char16_t* const kEditFields[] = {u"User_Name", u"kana", u"User_Comment", u"Employee_SerialNumber", u"Acount_Name",
-                                       u"logon_Password"};
+const char16_t* const kEditFields[] = {u"User_Name", u"kana", u"User_Comment", u"Employee_SerialNumber", u"Acount_Name", u"logon_Password"};
 const char* const kEditCaptions[] = {"ユーザ名", "ふりがな", "補記", "社員番号", "アカウント", "パスワード"};
 constexpr int kFirstEdit = 3;
 
@@ -161,8 +159,8 @@ void frm_Edit_User::Form_Resize()
     if (width <= 0)
         return;
     MSFlexGrid_Edit->Move(kGridLeft, kGridTop, width, kGridHeight);
-    m_fields->setGeometry(ui::TwipsToPixels(kGridLeft), ui::TwipsToPixels(kGridTop + kGridHeight + 120),
-                          ui::TwipsToPixels(width), m_fields->sizeHint().height());
+    m_fields->setGeometry(ui::TwipsToPixels(kGridLeft), ui::TwipsToPixels(kGridTop + kGridHeight + 120), ui::TwipsToPixels(width),
+                          m_fields->sizeHint().height());
 }
 
 void frm_Edit_User::Form_Load()
@@ -266,8 +264,7 @@ void frm_Edit_User::MSFlexGrid_Edit_Click()
 namespace {
 
 // Fills a master's drop-down list: its names, with the code as each entry's data.
-void fillMasterList(QComboBox& combo, const QString& sql, const char16_t* codeField, const char16_t* nameField,
-                    const QString& behindName)
+void fillMasterList(QComboBox& combo, const QString& sql, const char16_t* codeField, const char16_t* nameField, const QString& behindName)
 {
     const QString typed = combo.currentText();
     combo.clear();
@@ -370,14 +367,12 @@ void frm_Edit_User::Mnu_Update_Click()
 void frm_Edit_User::Mnu_Delete_Click()
 {
     // Only the answer Yes deletes; either answer fills the grid again and turns Mnu_Add on.
-    const bool yes =
-        ui::MsgBox(QStringLiteral("削除しますか？"), ui::vbQuestion + ui::vbYesNo, QStringLiteral("確認")) == ui::vbYes;
+    const bool yes = ui::MsgBox(QStringLiteral("削除しますか？"), ui::vbQuestion + ui::vbYesNo, QStringLiteral("確認")) == ui::vbYes;
     if (yes && m_selectedRow >= 1 && m_filled) {
         const QString key = MSFlexGrid_Edit->TextMatrix(m_selectedRow, 0);
         db::Recordset rs;
         rs.Open(QStringLiteral("SELECT * ") + QStringLiteral("FROM ") + QStringLiteral("tbl_User ") + QStringLiteral(" WHERE (")
-                    + QStringLiteral("((tbl_User.User_Code)=") + key + QStringLiteral(")") + QStringLiteral(")")
-                    + QStringLiteral(";"),
+                    + QStringLiteral("((tbl_User.User_Code)=") + key + QStringLiteral(")") + QStringLiteral(")") + QStringLiteral(";"),
                 DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() > 0) {
             rs.Fields(u"Available_flug") = vb::Variant(QStringLiteral("1"));

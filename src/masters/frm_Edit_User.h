@@ -17,7 +17,7 @@ class QMenuBar;
 namespace ui {
 class DropDownCombo;
 class FlexGrid;
-}
+} // namespace ui
 
 // The register of users: the people computers are assigned to, each in a section and a
 // division, with employee number, logon account and password (plain text, as the ledger keeps

@@ -16,7 +16,6 @@ using Mdl_Sub::FieldText;
 
 namespace {
 
-
 // The columns of the two grids behind "No": the register shows all twelve, the address list the
 // first ten.
 struct ListColumn {
@@ -24,12 +23,18 @@ struct ListColumn {
     const char* heading;
 };
 constexpr ListColumn kColumns[] = {
-    {u"Location_Name", "設置場所"},      {u"User_Name", "ユーザ名"},
-    {u"Computer_Name", "コンピュータ名"}, {u"WorkGroup", "ワークグループ"},
-    {u"IPAddress", "IPアドレス"},         {u"MacAddress", "Macアドレス"},
-    {u"Manufacturer_Name", "メーカー"},   {u"Model_Name", "モデル"},
-    {u"Type_Number", "タイプ"},           {u"Sereals_Number", "シリアル"},
-    {u"ID", "ID"},                        {u"PassWord", "PW"},
+    {u"Location_Name", "設置場所"},
+    {u"User_Name", "ユーザ名"},
+    {u"Computer_Name", "コンピュータ名"},
+    {u"WorkGroup", "ワークグループ"},
+    {u"IPAddress", "IPアドレス"},
+    {u"MacAddress", "Macアドレス"},
+    {u"Manufacturer_Name", "メーカー"},
+    {u"Model_Name", "モデル"},
+    {u"Type_Number", "タイプ"},
+    {u"Sereals_Number", "シリアル"},
+    {u"ID", "ID"},
+    {u"PassWord", "PW"},
 };
 constexpr int kRegisterColumns = 12;
 constexpr int kAddressColumns = 10;
@@ -86,34 +91,46 @@ ui::FillResult fillGrid(ui::FlexGrid& grid, const QString& sql, int shownColumns
 
 // The installed computers with their masters' names. A computer whose location, user (with the
 // user's section and division), maker or model has no master row is left out by the joins.
-const QString kComputersSql = QStringLiteral(
-    "SELECT DISTINCT tbl_Pclist.MainKey, tbl_Pclist.Computer_Name, tbl_Pclist.Workgroup, tbl_Pclist.IPAddress, "
-    "tbl_Pclist.IPAddress_16num, tbl_Pclist.MacAddress, tbl_Computer_List.MainKey, tbl_Computer_List.Location_Code, "
-    "tbl_Computer_List.User_Code, tbl_Computer_List.Manufacturer_Code, tbl_Computer_List.Model_Code, "
-    "tbl_Computer_List.Type_Number, tbl_Computer_List.Sereals_Number, tbl_Computer_List.Update, "
-    "tbl_Computer_List.Comment, tbl_Location.Location_Name, tbl_Section.Section_Name, tbl_Division.Division_Name, "
-    "tbl_User.User_Name, tbl_Manufacturer.Manufacturer_Name, tbl_Model.Model_Name FROM tbl_Computer_List, tbl_Pclist, "
-    "tbl_Section, tbl_Location, tbl_Division, tbl_User, tbl_Manufacturer, tbl_Model WHERE "
-    "((tbl_Computer_List.Deleted_Flug = 0) AND ((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) "
-    "AND ((tbl_User.Section_Code)=([tbl_Section].[Section_Code])) AND "
-    "((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND "
-    "((tbl_Computer_List.User_Code)=([tbl_User].[User_Code])) AND "
-    "((tbl_Computer_List.Manufacturer_Code)=([tbl_Manufacturer].[Manufacturer_Code])) AND "
-    "((tbl_Computer_List.Model_Code)=([tbl_Model].[Model_Code])) AND (tbl_Pclist.MainKey = "
-    "tbl_Computer_List.MainKey))ORDER BY IPAddress_16num;");
+const QString kComputersSql =
+    QStringLiteral("SELECT DISTINCT tbl_Pclist.MainKey, tbl_Pclist.Computer_Name, tbl_Pclist.Workgroup, tbl_Pclist.IPAddress, "
+                   "tbl_Pclist.IPAddress_16num, tbl_Pclist.MacAddress, tbl_Computer_List.MainKey, tbl_Computer_List.Location_Code, "
+                   "tbl_Computer_List.User_Code, tbl_Computer_List.Manufacturer_Code, tbl_Computer_List.Model_Code, "
+                   "tbl_Computer_List.Type_Number, tbl_Computer_List.Sereals_Number, tbl_Computer_List.Update, "
+                   "tbl_Computer_List.Comment, tbl_Location.Location_Name, tbl_Section.Section_Name, tbl_Division.Division_Name, "
+                   "tbl_User.User_Name, tbl_Manufacturer.Manufacturer_Name, tbl_Model.Model_Name FROM tbl_Computer_List, tbl_Pclist, "
+                   "tbl_Section, tbl_Location, tbl_Division, tbl_User, tbl_Manufacturer, tbl_Model WHERE "
+                   "((tbl_Computer_List.Deleted_Flug = 0) AND ((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) "
+                   "AND ((tbl_User.Section_Code)=([tbl_Section].[Section_Code])) AND "
+                   "((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND "
+                   "((tbl_Computer_List.User_Code)=([tbl_User].[User_Code])) AND "
+                   "((tbl_Computer_List.Manufacturer_Code)=([tbl_Manufacturer].[Manufacturer_Code])) AND "
+                   "((tbl_Computer_List.Model_Code)=([tbl_Model].[Model_Code])) AND (tbl_Pclist.MainKey = "
+                   "tbl_Computer_List.MainKey))ORDER BY IPAddress_16num;");
 
 // What each row of the address list is made of, in the order the rebuild reads it. Update and
 // Comment are read from a computer and never written; a device has neither.
 enum ListValue {
-    Location_Name, User_Name, Computer_Name, WorkGroup, IPAddress, IPAddress_16num, Manufacturer_Name, Model_Name,
-    Type_Number, Sereals_Number, Update, Comment, MacAddress, ListValueCount
+    Location_Name,
+    User_Name,
+    Computer_Name,
+    WorkGroup,
+    IPAddress,
+    IPAddress_16num,
+    Manufacturer_Name,
+    Model_Name,
+    Type_Number,
+    Sereals_Number,
+    Update,
+    Comment,
+    MacAddress,
+    ListValueCount
 };
 constexpr std::array<const char16_t*, ListValueCount> kListValues = {
-    u"Location_Name", u"User_Name",  u"Computer_Name",  u"WorkGroup", u"IPAddress", u"IPAddress_16num", u"Manufacturer_Name",
+    u"Location_Name", u"User_Name",   u"Computer_Name",  u"WorkGroup", u"IPAddress", u"IPAddress_16num", u"Manufacturer_Name",
     u"Model_Name",    u"Type_Number", u"Sereals_Number", u"Update",    u"Comment",   u"MacAddress"};
 // The eleven that go into the INSERT, in its order.
-constexpr std::array<ListValue, 11> kWritten = {Location_Name, User_Name, Computer_Name, WorkGroup, IPAddress, IPAddress_16num,
-                                                Manufacturer_Name, Model_Name, Type_Number, Sereals_Number, MacAddress};
+constexpr std::array<ListValue, 11> kWritten = {Location_Name,     User_Name,  Computer_Name, WorkGroup,      IPAddress, IPAddress_16num,
+                                                Manufacturer_Name, Model_Name, Type_Number,   Sereals_Number, MacAddress};
 
 // Inserts the current record of rs as row key of the list; the record's fields by number, -1 for
 // the two a device does not have.

@@ -11,7 +11,6 @@ using Mdl_Sub::FieldText;
 
 namespace {
 
-
 void setCell(ui::FlexGrid& grid, int row, int col, const QString& value, int qbColour, int alignment = -1)
 {
     grid.SetRow(row);

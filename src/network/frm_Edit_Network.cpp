@@ -31,7 +31,6 @@ using Mdl_Sub::FieldText;
 
 namespace {
 
-
 // The fields above the register: which control, the device's field it edits, its label, and the
 // register's column it shows. Update writes them in this order.
 struct UnitField {
@@ -61,10 +60,7 @@ constexpr int kFieldsPerLine = 6;
 // The master behind each combo. Its fourth column is taken as the availability flag.
 const char* const kComboTables[] = {"tbl_Location", "tbl_User", "tbl_Manufacturer"};
 
-QString deviceSql(const QString& key)
-{
-    return QStringLiteral("SELECT * FROM tbl_NetworkUnit WHERE [Key]  = ") + key;
-}
+QString deviceSql(const QString& key) { return QStringLiteral("SELECT * FROM tbl_NetworkUnit WHERE [Key]  = ") + key; }
 
 } // namespace
 
@@ -206,8 +202,8 @@ void frm_Edit_Network::cmb_Dat_DropDown(int index)
     for (int i = 0; i < 4; ++i)
         names[size_t(i)] = rs.Fields(i).Name();
     rs.Close();
-    rs.Open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE ") + names[3] + QStringLiteral(" ='0';"),
-            DbConnection(), db::adOpenStatic, db::adLockOptimistic);
+    rs.Open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE ") + names[3] + QStringLiteral(" ='0';"), DbConnection(),
+            db::adOpenStatic, db::adLockOptimistic);
     for (; !rs.Eof(); rs.MoveNext())
         combo.addItem(FieldText(rs.Fields(1).Value()), FieldText(rs.Fields(0).Value()));
     rs.Close();
@@ -220,8 +216,7 @@ void frm_Edit_Network::Mnu_AddRecord_Click()
     try {
         const QString key = QString::number(vb::IntAdd(Mdl_Access_mdb::MaxOfFirstColumn(QStringLiteral("tbl_NetworkUnit")), 1));
         Mdl_Access_mdb::ExecuteSql(QStringLiteral("INSERT INTO tbl_NetworkUnit ([Key]) VALUES (") + key + QStringLiteral(");"));
-        Mdl_Access_mdb::ExecuteSql(QStringLiteral("UPDATE tbl_NetworkUnit SET tbl_NetworkUnit.[Deleted_Flug] = 0 WHERE Key = ")
-                                   + key);
+        Mdl_Access_mdb::ExecuteSql(QStringLiteral("UPDATE tbl_NetworkUnit SET tbl_NetworkUnit.[Deleted_Flug] = 0 WHERE Key = ") + key);
         PreviousUnitRow = 1;
         SelectedUnitRow = 0;
         UnitGridReady = true;
@@ -237,8 +232,7 @@ void frm_Edit_Network::Mnu_Update_Click()
     if (SelectedUnitRow == 0)
         return;
     db::Recordset rs;
-    rs.Open(deviceSql(MSFlexGrid_NetworkUnit->TextMatrix(SelectedUnitRow, 0)), DbConnection(), db::adOpenStatic,
-            db::adLockOptimistic);
+    rs.Open(deviceSql(MSFlexGrid_NetworkUnit->TextMatrix(SelectedUnitRow, 0)), DbConnection(), db::adOpenStatic, db::adLockOptimistic);
     if (rs.RecordCount() == 0) {
         rs.Close();
         return;
@@ -271,8 +265,7 @@ void frm_Edit_Network::Mnu_Delete_Click()
         return;
     if (SelectedUnitRow != 0) {
         db::Recordset rs;
-        rs.Open(deviceSql(MSFlexGrid_NetworkUnit->TextMatrix(SelectedUnitRow, 0)), DbConnection(), db::adOpenStatic,
-                db::adLockOptimistic);
+        rs.Open(deviceSql(MSFlexGrid_NetworkUnit->TextMatrix(SelectedUnitRow, 0)), DbConnection(), db::adOpenStatic, db::adLockOptimistic);
         if (rs.RecordCount() > 0) {
             rs.Delete();
             rs.Update();

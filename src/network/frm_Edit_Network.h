@@ -13,7 +13,7 @@ class QWidget;
 namespace ui {
 class DropDownCombo;
 class FlexGrid;
-}
+} // namespace ui
 
 // The register of network devices that are not computers of the ledger (printers, routers,
 // servers kept elsewhere), and beside it one list of every IP address, computers and devices

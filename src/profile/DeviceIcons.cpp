@@ -5,7 +5,6 @@
 #include <QPainterPath>
 #include <QPixmap>
 
-
 namespace DeviceIcons {
 
 namespace {
@@ -146,8 +145,7 @@ void sound(QPainter& p)
 {
     pen(p, kInk);
     p.setBrush(kSteel);
-    p.drawPolygon(QPolygonF({QPointF(2, 7.5), QPointF(6, 7.5), QPointF(11, 3), QPointF(11, 17), QPointF(6, 12.5),
-                             QPointF(2, 12.5)}));
+    p.drawPolygon(QPolygonF({QPointF(2, 7.5), QPointF(6, 7.5), QPointF(11, 3), QPointF(11, 17), QPointF(6, 12.5), QPointF(2, 12.5)}));
     p.setBrush(Qt::NoBrush);
     pen(p, kBlue, 1.4);
     p.drawArc(QRectF(8, 6, 6, 8), -60 * 16, 120 * 16);
@@ -263,8 +261,7 @@ void floppy(QPainter& p)
 {
     pen(p, kInk);
     p.setBrush(kBlue);
-    p.drawPolygon(QPolygonF({QPointF(2.5, 2.5), QPointF(15.5, 2.5), QPointF(17.5, 4.5), QPointF(17.5, 17.5),
-                             QPointF(2.5, 17.5)}));
+    p.drawPolygon(QPolygonF({QPointF(2.5, 2.5), QPointF(15.5, 2.5), QPointF(17.5, 4.5), QPointF(17.5, 17.5), QPointF(2.5, 17.5)}));
     p.setBrush(kSteel);
     p.drawRect(QRectF(5.5, 2.5, 8, 5));
     p.setBrush(QColor(60, 60, 70));
@@ -325,10 +322,7 @@ void infrared(QPainter& p)
     p.drawArc(QRectF(3, -1, 16, 23), -45 * 16, 90 * 16);
 }
 
-void busController(QPainter& p)
-{
-    chip(p, QColor(70, 70, 80), QStringLiteral("1394"));
-}
+void busController(QPainter& p) { chip(p, QColor(70, 70, 80), QStringLiteral("1394")); }
 
 struct Entry {
     const char* key;

@@ -22,13 +22,13 @@ enum class Source { Heading, User, Section, Division, Combo, Field, Drive };
 struct SheetLine {
     int line;
     const char* label;
-    const char* separator;   // nullptr: ": "
+    const char* separator; // nullptr: ": "
     Source source;
     int index;
 };
 
-const char* const kWideGap = ": 　　　　";   // colon, blank, four ideographic blanks
-const char* const kModelGap = ":　 ";         // colon, ideographic blank, blank
+const char* const kWideGap = ": 　　　　"; // colon, blank, four ideographic blanks
+const char* const kModelGap = ":　 ";      // colon, ideographic blank, blank
 
 // clang-format off
 constexpr SheetLine kFixedPart[] = {
@@ -114,8 +114,7 @@ public:
     }
 
     // The rows of a grid below its heading, as the grid stands.
-    void gridRows(const ui::FlexGrid& grid, int secondColumn, std::int32_t lineAfterBreak, bool bracketsAlways,
-                  std::int32_t& line)
+    void gridRows(const ui::FlexGrid& grid, int secondColumn, std::int32_t lineAfterBreak, bool bracketsAlways, std::int32_t& line)
     {
         for (int row = 1; row <= grid.Rows() - 1; ++row) {
             if (line + 3 > m_m.LinesPerPage) {

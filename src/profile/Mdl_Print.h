@@ -16,11 +16,11 @@ namespace Mdl_Print {
 
 // The page model, set up once for each sheet.
 struct PageModel {
-    std::int32_t LineHeight = 0;       // the height of "A" in the sheet's font, whole millimetres
-    std::int32_t LinesPerPage = 0;     // whole lines in the surface's height
-    std::int32_t TextHeightTotal = 0;  // LinesPerPage lines
-    std::int32_t RightEdge = 0;        // the right margin: the width less 10
-    std::int16_t PageNumber = 0;       // the page being drawn, from 1
+    std::int32_t LineHeight = 0;      // the height of "A" in the sheet's font, whole millimetres
+    std::int32_t LinesPerPage = 0;    // whole lines in the surface's height
+    std::int32_t TextHeightTotal = 0; // LinesPerPage lines
+    std::int32_t RightEdge = 0;       // the right margin: the width less 10
+    std::int16_t PageNumber = 0;      // the page being drawn, from 1
 };
 
 // The whole sheet of the computer the controls show, ended with the document's end.

@@ -178,10 +178,10 @@ void ProfileControls::Build(QWidget* form)
     // the field pairs of the band and of pages 1, 2 and 8
     for (const ProfileField& f : ProfileFields) {
         const FieldBlock& block = blockOf(f.page);
-        QWidget* parent = f.page == Page::Band          ? client
-                          : f.page == Page::Cpu         ? Picture_Page[TabCpu - 1]
-                          : f.page == Page::Network     ? Picture_Page[TabNetwork - 1]
-                                                        : Picture_Page[TabMaintenance - 1];
+        QWidget* parent = f.page == Page::Band      ? client
+                          : f.page == Page::Cpu     ? Picture_Page[TabCpu - 1]
+                          : f.page == Page::Network ? Picture_Page[TabNetwork - 1]
+                                                    : Picture_Page[TabMaintenance - 1];
         const int k = f.index - block.firstIndex;
         const FieldColumn& column = block.columns[size_t(k / block.rows)];
         const int left = block.left + column.left;

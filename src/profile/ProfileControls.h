@@ -22,7 +22,7 @@ namespace ui {
 class DropDownCombo;
 class FlexGrid;
 class StatusBar;
-}
+} // namespace ui
 
 // The controls of the computer profile, under the system's names, as the form designer laid them
 // out: the band on top, the tab strip, and the eight pages that lie on top of each other below
@@ -40,16 +40,16 @@ struct ProfileControls {
     QAction* Mnu_Update = nullptr;
     QMenu* Mnu_Managemants = nullptr;
     QAction* Mnu_Edit_User = nullptr;
-    std::array<QAction*, 6> Mnu_Edit_Teble{};   // 1 to 5
+    std::array<QAction*, 6> Mnu_Edit_Teble{}; // 1 to 5
 
     // the band
     QLineEdit* tbx_User = nullptr;
-    QLineEdit* tbx_UserCode = nullptr;   // hidden
+    QLineEdit* tbx_UserCode = nullptr; // hidden
     QListWidget* List_User = nullptr;
     QLineEdit* tbx_Section = nullptr;
     QLineEdit* tbx_Division = nullptr;
-    std::array<ui::DropDownCombo*, 6> cmb_Dat{};   // 3 to 5
-    std::array<QLineEdit*, 6> tbx_CmbKey{};        // 3 to 5, hidden
+    std::array<ui::DropDownCombo*, 6> cmb_Dat{}; // 3 to 5
+    std::array<QLineEdit*, 6> tbx_CmbKey{};      // 3 to 5, hidden
     QPushButton* cmd_Prev = nullptr;
     QLineEdit* tbx_Key = nullptr;
     QLineEdit* tbx_PC_Numbers = nullptr;

@@ -85,8 +85,8 @@ ui::FillResult FillListGrid(ui::FlexGrid& grid, const ListGrid& list, std::int16
     db::Recordset rs;
     bool redrawOff = false;
     try {
-        rs.Open(QStringLiteral("SELECT ") + table + QStringLiteral(".* FROM ") + table + QStringLiteral("  WHERE (((")
-                    + table + QStringLiteral(".Key)=") + QString::number(key) + QStringLiteral("));"),
+        rs.Open(QStringLiteral("SELECT ") + table + QStringLiteral(".* FROM ") + table + QStringLiteral("  WHERE (((") + table
+                    + QStringLiteral(".Key)=") + QString::number(key) + QStringLiteral("));"),
                 Mdl_gData::DbConnection());
         if (rs.Eof()) {
             rs.Close();
@@ -162,13 +162,15 @@ ui::FillResult FillDeviceTree(QTreeWidget& tree, std::int16_t key)
         // the devices, each under its category; the counter keeps equal names apart
         int n = 1;
         for (rs.MoveFirst(); !rs.Eof(); rs.MoveNext(), ++n) {
-            const QString deviceName = vb::CStr(rs.Fields(u"Device_Name").Value());      // a Null fails here
+            const QString deviceName = vb::CStr(rs.Fields(u"Device_Name").Value()); // a Null fails here
             const QString deviceCategory = vb::CStr(rs.Fields(u"Device_Category").Value());
             if (deviceCategory.isEmpty())
                 continue;
             QString text;
-            const QString providerPart = hasText(rs.Fields(u"Device_Provider").Value(), text) ? QStringLiteral(" ") + text : QStringLiteral(" ");
-            const QString versionPart = hasText(rs.Fields(u"Device_Version").Value(), text) ? QStringLiteral(" ") + text : QStringLiteral(" ");
+            const QString providerPart =
+                hasText(rs.Fields(u"Device_Provider").Value(), text) ? QStringLiteral(" ") + text : QStringLiteral(" ");
+            const QString versionPart =
+                hasText(rs.Fields(u"Device_Version").Value(), text) ? QStringLiteral(" ") + text : QStringLiteral(" ");
             nodes.add(nodes.node(deviceCategory), deviceName + QString::number(n), deviceName + providerPart + versionPart,
                       DeviceIcons::KeyFor(deviceCategory));
         }

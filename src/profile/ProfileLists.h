@@ -23,9 +23,9 @@ struct ListGrid {
     const char16_t* fields[3];
 };
 
-extern const ListGrid Applications;  // MSGrid_Application, fnc_View_Applist
-extern const ListGrid Printers;      // MSFlexGrid_Printer, fnc_View_PrinterList
-extern const ListGrid Environment;   // MSFlexGrid_Environmental, fnc_View_Environment
+extern const ListGrid Applications; // MSGrid_Application, fnc_View_Applist
+extern const ListGrid Printers;     // MSFlexGrid_Printer, fnc_View_PrinterList
+extern const ListGrid Environment;  // MSFlexGrid_Environmental, fnc_View_Environment
 
 // The grid as the window designs it, before any fill: four columns, one heading row and one
 // empty row.
@@ -36,7 +36,7 @@ void DesignGrid(ui::FlexGrid& grid);
 ui::FillResult FillListGrid(ui::FlexGrid& grid, const ListGrid& list, std::int16_t key);
 
 // The roles under which a tree node keeps its key and the key of its picture in ImageList1.
-inline constexpr int NodeKeyRole = 0x0100;    // Qt::UserRole
+inline constexpr int NodeKeyRole = 0x0100; // Qt::UserRole
 inline constexpr int ImageKeyRole = 0x0101;
 
 // fnc_View_DeviceTree: a root for each category, a child for each device ("name provider

@@ -27,15 +27,15 @@ struct Entries {
 };
 
 enum class Outcome {
-    NoRecord,    // the computer is gone: nothing happened, nothing was said
-    NoChange,    // nothing differed: nothing was written or shown
-    Saved,       // written, then reported
-    Failed,      // the error box was shown; nothing was written
+    NoRecord, // the computer is gone: nothing happened, nothing was said
+    NoChange, // nothing differed: nothing was written or shown
+    Saved,    // written, then reported
+    Failed,   // the error box was shown; nothing was written
 };
 
 struct Result {
     Outcome outcome = Outcome::NoChange;
-    QString changeLog;   // the report's lines, each ending in CR LF
+    QString changeLog; // the report's lines, each ending in CR LF
 };
 
 // Saves the computer of that key. Besides the ledger it may change one entry on screen: the sort

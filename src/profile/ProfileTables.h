@@ -202,8 +202,8 @@ inline constexpr std::array<CapacityRow, 6> CapacityRows = {{
 }};
 
 // The eight tabs of TabStrip1; tab n (from 1) shows Picture_Page(n-1).
-inline constexpr std::array<const char*, 8> TabCaptions = {"CPU", "ネットワーク", "アプリケーション", "デバイス",
-                                                           "プリンタ", "環境変数", "ドライブ", "保守"};
+inline constexpr std::array<const char*, 8> TabCaptions = {"CPU",      "ネットワーク", "アプリケーション", "デバイス",
+                                                           "プリンタ", "環境変数",     "ドライブ",         "保守"};
 // The tabs are widened by ideographic blanks behind their captions.
 inline constexpr int TabCaptionPadding = 1;
 

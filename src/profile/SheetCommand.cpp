@@ -141,7 +141,7 @@ int SheetCommand(const QStringList& args)
     const auto count = [](qsizetype n, const char* what) -> QString {
         return QString::number(n) + u' ' + QString::fromUtf8(what) + (n == 1 ? QString() : QStringLiteral("s"));
     };
-    app::PrintLine(stdout, out + QStringLiteral(": ") + count(qsizetype(keys.size()), "sheet") + QStringLiteral(", ")
-                               + count(pages, "page"));
+    app::PrintLine(stdout,
+                   out + QStringLiteral(": ") + count(qsizetype(keys.size()), "sheet") + QStringLiteral(", ") + count(pages, "page"));
     return app::ExitDone;
 }

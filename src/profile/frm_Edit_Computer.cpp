@@ -38,11 +38,10 @@
 using Mdl_gData::DbConnection;
 using Mdl_gData::g;
 using namespace ProfileTables;
-using vb::Variant;
 using Mdl_Sub::FieldText;
+using vb::Variant;
 
 namespace {
-
 
 // The printer dialogs' flags: the setup form (cdlPDPrintSetup); and no selection, the printer's
 // own copies and collation, no print to file (cdlPDNoSelection | cdlPDUseDevModeCopiesAndCollate
@@ -65,23 +64,22 @@ bool notEmpty(const Variant& v) { return !vb::Equal(v, Variant(QString())).value
 
 QString existsSql(std::int16_t key)
 {
-    return QStringLiteral("SELECT tbl_Computer_List.MainKey FROM tbl_Computer_List  WHERE (MainKey = ")
-           + QString::number(key) + QStringLiteral(");");
+    return QStringLiteral("SELECT tbl_Computer_List.MainKey FROM tbl_Computer_List  WHERE (MainKey = ") + QString::number(key)
+           + QStringLiteral(");");
 }
 
 // The record with every master it points at; no row when any of them is missing.
 QString fullProfileSql(std::int16_t key)
 {
-    return QStringLiteral(
-               "SELECT DISTINCT tbl_Pclist.*, tbl_Computer_List.*, tbl_Location.Location_Name, tbl_Section.Section_Name, "
-               "tbl_Division.Division_Name, tbl_User.User_Name, tbl_Manufacturer.Manufacturer_Name, tbl_Model.Model_Name "
-               "FROM tbl_Computer_List, tbl_Pclist, tbl_Section, tbl_Location, tbl_Division, tbl_User, tbl_Manufacturer, "
-               "tbl_Model WHERE (((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "
-               "((tbl_User.Section_Code)=([tbl_Section].[Section_Code])) AND "
-               "((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND "
-               "((tbl_Computer_List.User_Code)=([tbl_User].[User_Code])) AND "
-               "((tbl_Computer_List.Manufacturer_Code)=([tbl_Manufacturer].[Manufacturer_Code])) AND "
-               "((tbl_Computer_List.Model_Code)=([tbl_Model].[Model_Code])) AND (tbl_Computer_List.MainKey=")
+    return QStringLiteral("SELECT DISTINCT tbl_Pclist.*, tbl_Computer_List.*, tbl_Location.Location_Name, tbl_Section.Section_Name, "
+                          "tbl_Division.Division_Name, tbl_User.User_Name, tbl_Manufacturer.Manufacturer_Name, tbl_Model.Model_Name "
+                          "FROM tbl_Computer_List, tbl_Pclist, tbl_Section, tbl_Location, tbl_Division, tbl_User, tbl_Manufacturer, "
+                          "tbl_Model WHERE (((tbl_Computer_List.Location_Code)=([tbl_Location].[Location_Code])) AND "
+                          "((tbl_User.Section_Code)=([tbl_Section].[Section_Code])) AND "
+                          "((tbl_User.Division_Code)=([tbl_Division].[Division_Code])) AND "
+                          "((tbl_Computer_List.User_Code)=([tbl_User].[User_Code])) AND "
+                          "((tbl_Computer_List.Manufacturer_Code)=([tbl_Manufacturer].[Manufacturer_Code])) AND "
+                          "((tbl_Computer_List.Model_Code)=([tbl_Model].[Model_Code])) AND (tbl_Computer_List.MainKey=")
            + QString::number(key) + QStringLiteral(") AND (tbl_Pclist.MainKey = tbl_Computer_List.MainKey));");
 }
 
@@ -144,8 +142,8 @@ void frm_Edit_Computer::connectEvents()
     Mnu_Edit_User = ui::AddMenuItem(Mnu_Managemants, "Mnu_Edit_User", QStringLiteral("ユーザ"), [this] { Mnu_Edit_User_Click(); });
     const char* const tables[] = {"部署", "課", "設置場所", "メーカー", "モデル"};
     for (int i = 1; i <= 5; ++i) {
-        QAction* item = ui::AddMenuItem(Mnu_Managemants, "Mnu_Edit_Teble", QString::fromUtf8(tables[i - 1]),
-                                        [this, i] { Mnu_Edit_Teble_Click(i); });
+        QAction* item =
+            ui::AddMenuItem(Mnu_Managemants, "Mnu_Edit_Teble", QString::fromUtf8(tables[i - 1]), [this, i] { Mnu_Edit_Teble_Click(i); });
         ui::SetArrayName(item, "Mnu_Edit_Teble", i);
         Mnu_Edit_Teble[size_t(i)] = item;
     }
@@ -166,7 +164,8 @@ void frm_Edit_Computer::connectEvents()
     for (const ProfileField& f : ProfileFields) {
         QLineEdit* box = tbx_Dat[size_t(f.index)];
         const int i = f.index;
-        ui::FocusEvents::Install(box, [this, i] { tbx_Dat_GotFocus(i); }, [this, i] { tbx_Dat_LostFocus(i); });
+        ui::FocusEvents::Install(
+            box, [this, i] { tbx_Dat_GotFocus(i); }, [this, i] { tbx_Dat_LostFocus(i); });
         switch (f.keys) {
         case KeyRule::Any: break;
         case KeyRule::Digits: ui::KeyPressFilter::Install(box, ui::KeyPressFilter::Digits); break;
@@ -373,10 +372,8 @@ bool frm_Edit_Computer::fnc_View_Master(std::int16_t key)
             tbx_CmbKey[size_t(n)]->setText(vb::CStr(code));
         });
     }
-    const std::pair<QLineEdit*, const char16_t*> band[] = {{tbx_User, u"User_Name"},
-                                                           {tbx_UserCode, u"User_Code"},
-                                                           {tbx_Section, u"Section_Name"},
-                                                           {tbx_Division, u"Division_Name"}};
+    const std::pair<QLineEdit*, const char16_t*> band[] = {
+        {tbx_User, u"User_Name"}, {tbx_UserCode, u"User_Code"}, {tbx_Section, u"Section_Name"}, {tbx_Division, u"Division_Name"}};
     for (const auto& [box, field] : band) {
         resumeNext([&] {
             const Variant& value = rs.Fields(field).Value();
@@ -502,8 +499,7 @@ void frm_Edit_Computer::cmb_Dat_DropDown(int index)
             names << rs.Fields(c).Name();
         rs.Close();
         // the fourth column of a master is its availability flag
-        rs.Open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE ") + names[3] + QStringLiteral(" ='0';"),
-                DbConnection());
+        rs.Open(QStringLiteral("SELECT * FROM ") + table + QStringLiteral(" WHERE ") + names[3] + QStringLiteral(" ='0';"), DbConnection());
         for (; !rs.Eof(); rs.MoveNext()) {
             const Variant& name = rs.Value(1);
             if (name.IsNull())
@@ -545,8 +541,7 @@ void frm_Edit_Computer::List_User_Click()
                     + tbx_UserCode->text() + QStringLiteral("));"),
                 DbConnection());
         if (!rs.Eof()) {
-            const std::pair<QLineEdit*, const char16_t*> names[] = {{tbx_Section, u"Section_Name"},
-                                                                    {tbx_Division, u"Division_Name"}};
+            const std::pair<QLineEdit*, const char16_t*> names[] = {{tbx_Section, u"Section_Name"}, {tbx_Division, u"Division_Name"}};
             for (const auto& [box, field] : names) {
                 box->setText(QStringLiteral(" "));
                 const Variant& value = rs.Fields(field).Value();

@@ -35,8 +35,8 @@ public:
 
     // state
     std::int16_t CurrentKey = 0;
-    std::int16_t CurrentPosition = 0;   // in ListRowKeys, from 1
-    QString EditBackup;                 // a tbx_Dat box's text when it got the focus ("0" if empty)
+    std::int16_t CurrentPosition = 0; // in ListRowKeys, from 1
+    QString EditBackup;               // a tbx_Dat box's text when it got the focus ("0" if empty)
 
     // routines; the loaders answer whether they read a row, a value no caller needs
     void fnc_Clear_Profile();
@@ -90,5 +90,5 @@ private:
     void step(int position);
     void dateCheck(int index);
 
-    bool m_opened = false;   // shown once: from then on a resize is forced to the resize size
+    bool m_opened = false; // shown once: from then on a resize is forced to the resize size
 };

@@ -49,7 +49,7 @@ public:
     QAction* Mnu_ReplacePC;
     QMenu* Mnu_Managements;
     QAction* Mnu_Edit_Users;
-    std::array<QAction*, 6> Mnu_Edit_Table{};   // indexes 1 to 5
+    std::array<QAction*, 6> Mnu_Edit_Table{}; // indexes 1 to 5
     QAction* Mnu_Edit_profile;
     QAction* Mnu_Edit_License;
     QAction* Mnu_Mail_Manegement;

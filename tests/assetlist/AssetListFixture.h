@@ -34,11 +34,11 @@ protected:
     // Computers first to last, all on the code-0 masters, in two statements.
     void manyComputers(int first, int last)
     {
-        const QString keys = QStringLiteral("WITH RECURSIVE n(k) AS (SELECT %1 UNION ALL SELECT k + 1 FROM n WHERE k < %2) ")
-                                 .arg(first)
-                                 .arg(last);
-        ledger.exec(keys + QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
-                                          "Model_Code, Deleted_Flug) SELECT k, 0, 0, 0, 0, 0 FROM n"));
+        const QString keys =
+            QStringLiteral("WITH RECURSIVE n(k) AS (SELECT %1 UNION ALL SELECT k + 1 FROM n WHERE k < %2) ").arg(first).arg(last);
+        ledger.exec(keys
+                    + QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code, Manufacturer_Code, "
+                                     "Model_Code, Deleted_Flug) SELECT k, 0, 0, 0, 0, 0 FROM n"));
         ledger.exec(keys + QStringLiteral("INSERT INTO tbl_Pclist (MainKey, Computer_Name) SELECT k, 'PC' || k FROM n"));
     }
 

@@ -16,10 +16,7 @@ using namespace Mdl_gData;
 namespace {
 
 // A settings file as the view window leaves it: code page 932, CR LF.
-QByteArray Settings(const QString& text)
-{
-    return text::ToCp932(QString(text).replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
-}
+QByteArray Settings(const QString& text) { return text::ToCp932(QString(text).replace(QLatin1Char('\n'), QStringLiteral("\r\n"))); }
 
 // View 1, the current one: installed computers by location, then by name from Z to A, with
 // capacities, connection flags, a drive flag no inventory file fills, and the location, whose
@@ -168,7 +165,8 @@ TEST_F(ExportListTest, FailuresPrintTheWindowsErrorBoxAndEndWithStatusOne)
     EXPECT_EQ(out.read(QStringLiteral("list.csv")), QByteArray());
 
     // no ledger
-    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), out.file(QStringLiteral("pcdb.mdb")), out.file(QStringLiteral("a.csv"))});
+    r = Admin({QStringLiteral("export-list"), QStringLiteral("--ledger"), out.file(QStringLiteral("pcdb.mdb")),
+               out.file(QStringLiteral("a.csv"))});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("no ledger at ") + out.file(QStringLiteral("pcdb.mdb")))) << r.err.toStdString();
     EXPECT_FALSE(QFile::exists(out.file(QStringLiteral("a.csv"))));
@@ -178,14 +176,19 @@ TEST_F(ExportListTest, UsageErrorsEndWithStatusOneAndWriteNothing)
 {
     const QString a = out.file(QStringLiteral("a.csv"));
     const QStringList cases[] = {
-        {}, {a, out.file(QStringLiteral("b.csv"))}, {QStringLiteral("--view"), QStringLiteral("8"), a},
-        {QStringLiteral("--view"), QStringLiteral("one"), a}, {a, QStringLiteral("--view")}, {QStringLiteral("--csv"), a},
+        {},
+        {a, out.file(QStringLiteral("b.csv"))},
+        {QStringLiteral("--view"), QStringLiteral("8"), a},
+        {QStringLiteral("--view"), QStringLiteral("one"), a},
+        {a, QStringLiteral("--view")},
+        {QStringLiteral("--csv"), a},
     };
     for (const QStringList& args : cases) {
         const AdminRun r = exportList(args);
         const std::string shown = args.join(QLatin1Char(' ')).toStdString();
         EXPECT_EQ(r.exitCode, 1) << shown;
-        EXPECT_TRUE(r.err.contains(QStringLiteral("usage: fenwold-admin export-list [--ledger PATH] [--ini PATH] [--view N] OUT"))) << shown;
+        EXPECT_TRUE(r.err.contains(QStringLiteral("usage: fenwold-admin export-list [--ledger PATH] [--ini PATH] [--view N] OUT")))
+            << shown;
         EXPECT_TRUE(QDir(out.path()).isEmpty()) << shown;
     }
 }

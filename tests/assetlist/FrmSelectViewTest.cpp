@@ -181,27 +181,26 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
     g.ViewNames[0] = u("標準");
     ASSERT_TRUE(loadList());
     ASSERT_EQ(grid->Cols(), 7);
-    list->CurrentMainKey = 5;   // what the main window had selected before
+    list->CurrentMainKey = 5; // what the main window had selected before
 
     open();
     form->Mnu_deSelect_All->trigger();
     // the user clicks the last column first: the view keeps the table's order
     clickColumn(76);
     clickColumn(8);
-    pick(0, 0);   // the first row's key given up
-    pick(1, 8);   // コンピュータ名
+    pick(0, 0); // the first row's key given up
+    pick(1, 8); // コンピュータ名
     form->Opt_ASC_DESC[3]->click();
     ASSERT_TRUE(form->Mnu_Update->isEnabled());
     form->Mnu_Update->trigger();
 
-    const QStringList expected = us({"OptDel=0", "SelectNumber=1", "KeyName0=Computer_Name", "KeyName1=", "KeyName2=",
-                                     "KeyCaption0=コンピュータ名", "KeyCaption1=", "KeyCaption2=", "KeyASCDESC0=DESC",
-                                     "KeyASCDESC1=DESC", "KeyASCDESC2=DESC", "MSFlexGrit_SelectNum=2",
-                                     "MSFlexGrit_Select1=8", "MSFlexGrit_Select2=76"});
+    const QStringList expected =
+        us({"OptDel=0", "SelectNumber=1", "KeyName0=Computer_Name", "KeyName1=", "KeyName2=", "KeyCaption0=コンピュータ名",
+            "KeyCaption1=", "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC", "MSFlexGrit_SelectNum=2",
+            "MSFlexGrit_Select1=8", "MSFlexGrit_Select2=76"});
     EXPECT_EQ(iniSection(u("0")), expected) << "no key of the earlier view survives";
-    EXPECT_EQ(iniSection(u("Main")), us({"SectionNumber=0", "SectionName0=標準", "SectionName1=", "SectionName2=",
-                                          "SectionName3=", "SectionName4=", "SectionName5=", "SectionName6=",
-                                          "SectionName7="}));
+    EXPECT_EQ(iniSection(u("Main")), us({"SectionNumber=0", "SectionName0=標準", "SectionName1=", "SectionName2=", "SectionName3=",
+                                         "SectionName4=", "SectionName5=", "SectionName6=", "SectionName7="}));
 
     // the main list follows at once, installed computers by name, descending
     ASSERT_EQ(grid->Cols(), 4);
@@ -226,20 +225,20 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
 
 TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys)
 {
-    writeSortKeys(0, {{"Location_Name", "設置場所", "ASC"}, {"Computer_Name", "コンピュータ名", "DESC"},
-                      {"ipaddress", "IPアドレス", "ASC"}});
+    writeSortKeys(0,
+                  {{"Location_Name", "設置場所", "ASC"}, {"Computer_Name", "コンピュータ名", "DESC"}, {"ipaddress", "IPアドレス", "ASC"}});
     loadList();
     open();
-    pick(0, 0);   // given up
+    pick(0, 0); // given up
     // row 1 untouched: its key moves to the front with its direction
-    pick(2, 9);   // ワークグループ
+    pick(2, 9); // ワークグループ
     form->Opt_ASC_DESC[5]->click();
     form->Mnu_Update->trigger();
 
     EXPECT_EQ(g.SelectNumber, 2);
     EXPECT_EQ(iniSection(u("0")).filter(QRegularExpression(QStringLiteral("^Key"))),
-              us({"KeyName0=Computer_Name", "KeyName1=Workgroup", "KeyName2=", "KeyCaption0=コンピュータ名",
-                  "KeyCaption1=ワークグループ", "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC"}));
+              us({"KeyName0=Computer_Name", "KeyName1=Workgroup", "KeyName2=", "KeyCaption0=コンピュータ名", "KeyCaption1=ワークグループ",
+                  "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC"}));
     EXPECT_TRUE(g.ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << g.ListSql.toStdString();
     EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
     EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));
@@ -266,7 +265,7 @@ TEST_F(FrmSelectView, SwitchingLoadsAViewAndRefreshesTheListButOnlyTheMenuSavesI
     ASSERT_EQ(listedKeys().size(), 3);
 
     open();
-    clickColumn(10);   // a change the switch drops in silence
+    clickColumn(10); // a change the switch drops in silence
     ASSERT_TRUE(form->Mnu_Update->isEnabled());
     form->Mnu_ViewSelect[1]->trigger();
 

@@ -103,19 +103,20 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
 
 TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLines)
 {
-    const QString tables[] = {QStringLiteral("tbl_ApplicationsList"), QStringLiteral("tbl_Computer_List"),
-                              QStringLiteral("tbl_Device_Management"), QStringLiteral("tbl_Environmental"),
-                              QStringLiteral("tbl_Pclist"), QStringLiteral("tbl_Printer_Management"),
-                              QStringLiteral("tbl_Mail_Management"), QStringLiteral("tbl_License_Dat")};
-    const QString keyColumns[] = {QStringLiteral("\"Key\""), QStringLiteral("MainKey"), QStringLiteral("\"Key\""),
-                                  QStringLiteral("\"Key\""), QStringLiteral("MainKey"), QStringLiteral("\"Key\""),
+    const QString tables[] = {
+        QStringLiteral("tbl_ApplicationsList"), QStringLiteral("tbl_Computer_List"), QStringLiteral("tbl_Device_Management"),
+        QStringLiteral("tbl_Environmental"),    QStringLiteral("tbl_Pclist"),        QStringLiteral("tbl_Printer_Management"),
+        QStringLiteral("tbl_Mail_Management"),  QStringLiteral("tbl_License_Dat")};
+    const QString keyColumns[] = {QStringLiteral("\"Key\""),       QStringLiteral("MainKey"),      QStringLiteral("\"Key\""),
+                                  QStringLiteral("\"Key\""),       QStringLiteral("MainKey"),      QStringLiteral("\"Key\""),
                                   QStringLiteral("Conputer_Code"), QStringLiteral("Computer_Code")};
     // computers 3 and 5 with rows everywhere, 8 with its two rows only
     int registerKey = 1;
     for (int key : {3, 5}) {
         ledger.computer(key, 0, 0, QStringLiteral("Computer_Name = 'PC-%1'").arg(key));
         for (int n = 0; n < 2; ++n)
-            ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (%1, 'App%2')").arg(key).arg(n));
+            ledger.exec(
+                QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (%1, 'App%2')").arg(key).arg(n));
         ledger.exec(QStringLiteral("INSERT INTO tbl_Device_Management (\"Key\", Device_Name) VALUES (%1, 'Disk')").arg(key));
         ledger.exec(QStringLiteral("INSERT INTO tbl_Environmental (\"Key\", Environmental_Name) VALUES (%1, 'PATH')").arg(key));
         ledger.exec(QStringLiteral("INSERT INTO tbl_Printer_Management (\"Key\", Printer_Name) VALUES (%1, 'LP')").arg(key));
@@ -177,7 +178,7 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     dialogs.clear();
     ListCommands::Mnu_AddNew(*list);
     EXPECT_TRUE(dialogs.calls().empty());
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 1);   // computer 0
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 1); // computer 0
 }
 
 TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheRemovedView)
@@ -199,9 +200,10 @@ TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheR
 
     // each of these ends the command without a word and without a change
     const std::optional<QString> refused[] = {
-        QStringLiteral("2005/13/01"), QStringLiteral("2005-12-04"), std::nullopt,   QStringLiteral("2005/12/00"),
-        QStringLiteral("2005/12/32"), QStringLiteral("2005/00/10"), QStringLiteral("2005/1/4"), QStringLiteral("2005/ab/01"),
-        QStringLiteral("2005/12/4"),  QStringLiteral("2005/12/041"),
+        QStringLiteral("2005/13/01"),  QStringLiteral("2005-12-04"), std::nullopt,
+        QStringLiteral("2005/12/00"),  QStringLiteral("2005/12/32"), QStringLiteral("2005/00/10"),
+        QStringLiteral("2005/1/4"),    QStringLiteral("2005/ab/01"), QStringLiteral("2005/12/4"),
+        QStringLiteral("2005/12/041"),
     };
     for (const auto& answer : refused) {
         const std::string name = answer.value_or(QStringLiteral("(cancel)")).toStdString();
@@ -259,15 +261,12 @@ TEST_F(ListCommandsTest, SearchMarksTheCellsThatBeginWithTheWord)
         const char* word;
         const char* marks;
     } cases[] = {
-        {"PC-A", "WYW|WWW|WWW"},    // not in the middle of a cell
-        {"PC", "WYW|WYW|WWY"},      // exact case
-        {"PC-?2", "WWW|WYW|WWW"},
-        {"PC-A#", "WYW|WWW|WWW"},   // "#" a digit
-        {"PC[#]", "WWW|WWW|WWY"},   // "[#]" the character itself
-        {"*A", "WYW|WWW|WYW"},
-        {"[!P]", "YWY|YWY|YYW"},    // the hidden keys too
-        {"pc-A", nullptr},
-        {"[PC", nullptr},           // an unclosed set matches nothing
+        {"PC-A", "WYW|WWW|WWW"},                            // not in the middle of a cell
+        {"PC", "WYW|WYW|WWY"},                              // exact case
+        {"PC-?2", "WWW|WYW|WWW"}, {"PC-A#", "WYW|WWW|WWW"}, // "#" a digit
+        {"PC[#]", "WWW|WWW|WWY"},                           // "[#]" the character itself
+        {"*A", "WYW|WWW|WYW"},    {"[!P]", "YWY|YWY|YYW"},  // the hidden keys too
+        {"pc-A", nullptr},        {"[PC", nullptr},         // an unclosed set matches nothing
     };
     for (const auto& c : cases) {
         dialogs.clear();

@@ -1,6 +1,5 @@
 #include "AssetListFixture.h"
 
-
 using namespace Mdl_gData;
 
 namespace {
@@ -29,8 +28,7 @@ TEST_F(ListQuery, StatementTailForEachViewShape)
     } cases[] = {
         {"installed, no sort: no ORDER BY, still the ';'", 0, 0, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 0) ;")},
         {"retired, one key", 1, 1, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 1)  ORDER BY Location_Name ASC;")},
-        {"both, three keys", 2, 3,
-         QStringLiteral(" ORDER BY Location_Name ASC,tbl_Computer_List.Update DESC,Computer_Name ASC;")},
+        {"both, three keys", 2, 3, QStringLiteral(" ORDER BY Location_Name ASC,tbl_Computer_List.Update DESC,Computer_Name ASC;")},
         {"four keys: neither ORDER BY nor ';'", 0, 4, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 0) ")},
     };
     for (const auto& c : cases) {
@@ -45,7 +43,7 @@ TEST_F(ListQuery, OptDelChoosesInstalledRetiredOrBoth)
 {
     for (int key : {1, 2, 3, 4})
         ledger.computer(key, key % 2 ? 0 : 1);
-    ledger.computer(5, 0, 9);   // a user code without a master row: never listed
+    ledger.computer(5, 0, 9); // a user code without a master row: never listed
     writeColumns(0, {8});
 
     ASSERT_TRUE(loadList());
@@ -71,7 +69,10 @@ TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
     ledger.computer(2, 0, 0, "Computer_Name = 'PC-B'", "Location_Code = 1");
     ledger.computer(3, 0, 0, "Computer_Name = 'PC-C'", "Location_Code = 2");
     writeColumns(0, {1, 8});
-    writeView(0, {{"SelectNumber", "2"}, {"KeyName0", "Location_Name"}, {"KeyASCDESC0", "ASC"}, {"KeyName1", "Computer_Name"},
+    writeView(0, {{"SelectNumber", "2"},
+                  {"KeyName0", "Location_Name"},
+                  {"KeyASCDESC0", "ASC"},
+                  {"KeyName1", "Computer_Name"},
                   {"KeyASCDESC1", "DESC"}});
     ASSERT_TRUE(loadList());
     // 支社 sorts before 本社 in the engine's text order

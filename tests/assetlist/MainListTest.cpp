@@ -41,7 +41,10 @@ protected:
         QString out;
         for (int c = 1; c < grid->Cols(); ++c) {
             const int a = grid->CellAlignmentAt(row, c);
-            out += a == ui::flexAlignLeftBottom ? u'L' : a == ui::flexAlignRightBottom ? u'R' : a == ui::flexAlignCenterBottom ? u'C' : u'?';
+            out += a == ui::flexAlignLeftBottom     ? u'L'
+                   : a == ui::flexAlignRightBottom  ? u'R'
+                   : a == ui::flexAlignCenterBottom ? u'C'
+                                                    : u'?';
         }
         return out;
     }
@@ -77,13 +80,13 @@ TEST_F(MainListTest, FillShowsTheSavedViewWithItsRenderersAndColours)
     ASSERT_EQ(grid->Cols(), 13);
     ASSERT_EQ(grid->Rows(), 4);
 
-    EXPECT_EQ(rowTexts(0), (QStringList{"", " ", "コンピュータ名", "ユーザ", "IPアドレス", "Ｃドライブ全容量", "メモリ全容量",
-                                        "ページファイル全容量", "ページファイル使用量", "MOドライブ", "LAN経由", "更新日",
-                                        "リース開始日"}));
+    EXPECT_EQ(rowTexts(0),
+              (QStringList{"", " ", "コンピュータ名", "ユーザ", "IPアドレス", "Ｃドライブ全容量", "メモリ全容量", "ページファイル全容量",
+                           "ページファイル使用量", "MOドライブ", "LAN経由", "更新日", "リース開始日"}));
     // sorted by computer name; capacities above 1000 in the larger unit; the page-file columns
     // read Pagefile_Used and Memory_Used; the update date is the computer list's
-    EXPECT_EQ(rowTexts(1), (QStringList{"1", "5", "PC-A", "山田太郎", "192.168.1.5", "1000", "1000", "700MB", "300MB", "",
-                                        "有効", "2005/04/01", "2005/04/01"}));
+    EXPECT_EQ(rowTexts(1), (QStringList{"1", "5", "PC-A", "山田太郎", "192.168.1.5", "1000", "1000", "700MB", "300MB", "", "有効",
+                                        "2005/04/01", "2005/04/01"}));
     EXPECT_EQ(rowTexts(2), (QStringList{"2", "3", "PC-B", "佐藤花子", "", "GB", "524MB", "", "", "-", "-", "", ""}));
     EXPECT_EQ(rowTexts(3), (QStringList{"3", "9", "PC-C", "山田太郎", "", "1,235GB", "2,097MB", "", "", "装備", "", "", ""}));
 
@@ -135,9 +138,10 @@ TEST_F(MainListTest, ClickSelectsAndPaintsOverTheRetiredGray)
     EXPECT_EQ(list->CurrentMainKey, 3);
     EXPECT_EQ(list->CurrentRow, 2);
     EXPECT_EQ(list->PreviousRow, 2);
-    EXPECT_EQ(menus, (std::vector<std::pair<MainList::MenuItem, bool>>{
-                         {MainList::Mnu_Edit_profile, true}, {MainList::Mnu_Delete, true}, {MainList::Mnu_ReplacePC, true},
-                         {MainList::Mnu_View_Select, true}}));
+    EXPECT_EQ(menus, (std::vector<std::pair<MainList::MenuItem, bool>>{{MainList::Mnu_Edit_profile, true},
+                                                                       {MainList::Mnu_Delete, true},
+                                                                       {MainList::Mnu_ReplacePC, true},
+                                                                       {MainList::Mnu_View_Select, true}}));
     EXPECT_EQ(colours(2), QStringLiteral("GGGGGGGGGGGG"));
     EXPECT_EQ(colours(1), QStringLiteral("WWWWWWWWWWWW"));
 
@@ -172,8 +176,8 @@ TEST_F(MainListTest, ClickSelectsAndPaintsOverTheRetiredGray)
 TEST_F(MainListTest, MissingPlacesShowTheKeyColumn)
 {
     ledger.computer(4, 0, 0, "Computer_Name = 'PC-X'");
-    writeView(0, {{QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("3")},
-                  {QStringLiteral("MSFlexGrit_Select1"), QStringLiteral("8")}});
+    writeView(0,
+              {{QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("3")}, {QStringLiteral("MSFlexGrit_Select1"), QStringLiteral("8")}});
     ASSERT_TRUE(loadList());
     EXPECT_EQ(rowTexts(0), (QStringList{"", " ", "コンピュータ名", " ", " "}));
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "4", "PC-X", "4", "4"}));
@@ -188,7 +192,7 @@ TEST_F(MainListTest, MissingPlacesShowTheKeyColumn)
 
 TEST_F(MainListTest, NoRowsEmptiesTheGridAndKeepsListReady)
 {
-    ledger.computer(1, 1);   // retired, and the view lists installed computers
+    ledger.computer(1, 1); // retired, and the view lists installed computers
     writeColumns(0, {8, 9});
     for (bool ready : {true, false}) {
         list->ListReady = ready;

@@ -48,10 +48,17 @@ TEST_F(ViewSettings, NoFileGivesTheEmptyViewAndKeepsTheDirections)
 
 TEST_F(ViewSettings, ReadsTheSectionOfTheCurrentView)
 {
-    writeView(5, {{"OptDel", "1"}, {"SelectNumber", "2"}, {"KeyName0", "Location_Name"}, {"KeyCaption0", "設置場所"},
-                  {"KeyASCDESC0", "ASC"}, {"KeyName1", "Computer_Name"}, {"KeyCaption1", "コンピュータ名"},
-                  {"MSFlexGrit_SelectNum", "3"}, {"MSFlexGrit_Select1", "8"}, {"MSFlexGrit_Select3", "76"}});
-    writeColumns(0, {1, 2, 3, 4, 5});   // another view's section is not read
+    writeView(5, {{"OptDel", "1"},
+                  {"SelectNumber", "2"},
+                  {"KeyName0", "Location_Name"},
+                  {"KeyCaption0", "設置場所"},
+                  {"KeyASCDESC0", "ASC"},
+                  {"KeyName1", "Computer_Name"},
+                  {"KeyCaption1", "コンピュータ名"},
+                  {"MSFlexGrit_SelectNum", "3"},
+                  {"MSFlexGrit_Select1", "8"},
+                  {"MSFlexGrit_Select3", "76"}});
+    writeColumns(0, {1, 2, 3, 4, 5}); // another view's section is not read
     g.SectionNumber = 5;
     mdl_ini::LoadViewSettings();
     EXPECT_EQ(g.OptDel, 1);

@@ -13,8 +13,7 @@ namespace {
 QStringList dump(const QString& ledger)
 {
     QStringList rows;
-    for (const QString& table :
-         LedgerRows(ledger, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")))
+    for (const QString& table : LedgerRows(ledger, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")))
         rows << table << LedgerRows(ledger, QStringLiteral("SELECT * FROM \"%1\" ORDER BY rowid").arg(table));
     return rows;
 }
@@ -43,8 +42,7 @@ TEST(DemoLedger, WritesACheckedLedgerTheSameOnEveryRunWithEveryListFilled)
     const AdminRun first = Admin({QStringLiteral("demo-ledger"), ledger});
     ASSERT_EQ(first.exitCode, 0) << first.err.toStdString();
     ASSERT_EQ(first.out.size(), 1);
-    EXPECT_TRUE(
-        first.out[0].startsWith(ledger + QStringLiteral(": 60 computers (5 retired, 12 read in English), 54 users")))
+    EXPECT_TRUE(first.out[0].startsWith(ledger + QStringLiteral(": 60 computers (5 retired, 12 read in English), 54 users")))
         << first.out[0].toStdString();
     EXPECT_TRUE(first.out[0].endsWith(QStringLiteral("DB.ini with 3 views written beside it")));
     ASSERT_EQ(Admin({QStringLiteral("demo-ledger"), again}).exitCode, 0);
@@ -57,25 +55,22 @@ TEST(DemoLedger, WritesACheckedLedgerTheSameOnEveryRunWithEveryListFilled)
     const AdminRun check = Admin({QStringLiteral("check"), QStringLiteral("--ledger"), ledger});
     EXPECT_EQ(check.exitCode, 0) << check.out.join(QLatin1Char('\n')).toStdString();
     // retired master rows that installed computers still use, so that the list shows them gray
-    EXPECT_EQ(LedgerRows(ledger, QStringLiteral(
-                                     "SELECT COUNT(DISTINCT c.Model_Code) > 0 AND COUNT(DISTINCT c.Location_Code) > 0 "
-                                     "FROM tbl_Computer_List c LEFT JOIN tbl_Model m ON m.Model_Code = c.Model_Code "
-                                     "AND m.Available_flug = '1' LEFT JOIN tbl_Location l ON l.Location_Code = "
-                                     "c.Location_Code AND l.Available_flug = '1' WHERE c.Deleted_Flug = 0 AND "
-                                     "(m.Model_Code IS NOT NULL OR l.Location_Code IS NOT NULL)")),
+    EXPECT_EQ(LedgerRows(ledger, QStringLiteral("SELECT COUNT(DISTINCT c.Model_Code) > 0 AND COUNT(DISTINCT c.Location_Code) > 0 "
+                                                "FROM tbl_Computer_List c LEFT JOIN tbl_Model m ON m.Model_Code = c.Model_Code "
+                                                "AND m.Available_flug = '1' LEFT JOIN tbl_Location l ON l.Location_Code = "
+                                                "c.Location_Code AND l.Available_flug = '1' WHERE c.Deleted_Flug = 0 AND "
+                                                "(m.Model_Code IS NOT NULL OR l.Location_Code IS NOT NULL)")),
               QStringList{QStringLiteral("1")});
 
     // the three saved views: by section and by system list the 55 installed computers, the
     // third the 5 retired ones
-    const QStringList exportList = {
-        QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger, QStringLiteral("--ini"), ini,
-        QStringLiteral("--view")};
+    const QStringList exportList = {QStringLiteral("export-list"), QStringLiteral("--ledger"), ledger, QStringLiteral("--ini"), ini,
+                                    QStringLiteral("--view")};
     EXPECT_EQ(exportedRows(exportList + QStringList{QStringLiteral("0")}, dir.file(QStringLiteral("view0.csv"))), 55);
     EXPECT_EQ(exportedRows(exportList + QStringList{QStringLiteral("1")}, dir.file(QStringLiteral("view1.csv"))), 55);
     EXPECT_EQ(exportedRows(exportList + QStringList{QStringLiteral("2")}, dir.file(QStringLiteral("view2.csv"))), 5);
     for (const char* list : {"licences", "census", "mail", "network", "printers"}) {
-        const QStringList args = {QStringLiteral("export"), QString::fromLatin1(list), QStringLiteral("--ledger"),
-                                  ledger};
+        const QStringList args = {QStringLiteral("export"), QString::fromLatin1(list), QStringLiteral("--ledger"), ledger};
         EXPECT_GT(exportedRows(args, dir.file(QString::fromLatin1(list) + QStringLiteral(".csv"))), 5) << list;
     }
 

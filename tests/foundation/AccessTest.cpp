@@ -62,8 +62,9 @@ TEST_F(Access, FirstRowHasNineSanitisedSlots)
     for (size_t i = 1; i < one.size(); ++i)
         EXPECT_TRUE(one[i].isEmpty());
 
-    FirstRow mixed = OpenRecordsetFirstRow(QStringLiteral("SELECT Workgroup, Memory_Full, tbl_Pclist.[Update], Leasing_StartDate "
-                                                          "FROM tbl_Pclist, tbl_Computer_List WHERE tbl_Pclist.MainKey = 0 AND tbl_Computer_List.MainKey = 0"));
+    FirstRow mixed = OpenRecordsetFirstRow(
+        QStringLiteral("SELECT Workgroup, Memory_Full, tbl_Pclist.[Update], Leasing_StartDate "
+                       "FROM tbl_Pclist, tbl_Computer_List WHERE tbl_Pclist.MainKey = 0 AND tbl_Computer_List.MainKey = 0"));
     EXPECT_EQ(mixed[0], QString()) << "an empty text is fine";
     EXPECT_EQ(mixed[1], QStringLiteral("512"));
     EXPECT_EQ(mixed[2], QStringLiteral("2005/12/04 10：11：12"));
@@ -109,7 +110,7 @@ TEST_F(Access, RecordExistsAndFieldTypeName)
         {"SELECT Remove_Date FROM tbl_Computer_List", "日付"}, // DATETIME
         {"SELECT CPU_FPU FROM tbl_Pclist", "不明"},            // SMALLINT: a flag is no number here
         {"SELECT MainKey FROM tbl_Pclist", "不明"},
-        {"SELECT Renewalday FROM tbl_ReadCsv", "不明"},        // no row: the word stays
+        {"SELECT Renewalday FROM tbl_ReadCsv", "不明"}, // no row: the word stays
         {"SELECT Memory_Full FROM tbl_Pclist WHERE MainKey = 9", "不明"},
     };
     for (const auto& c : cases)

@@ -93,8 +93,8 @@ protected:
 
 TEST_F(FrmInport, AFileReviewedOntoAComputerLeavesItAsTheBulkReadWouldSaveTheRowsTheReviewTreatsOtherwise)
 {
-    read(QStringLiteral("ja_pc01.csv"));                               // computer 1: the bulk read's result
-    read(QStringLiteral("en_pc02.csv"), InventoryLanguage::English);  // computer 2: to be overwritten
+    read(QStringLiteral("ja_pc01.csv"));                             // computer 1: the bulk read's result
+    read(QStringLiteral("en_pc02.csv"), InventoryLanguage::English); // computer 2: to be overwritten
     ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (1, '本館1F', '', '0')"));
     ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Location_Code = 1 WHERE MainKey = 2"));
     const auto before = row(QStringLiteral("tbl_Pclist"), QStringLiteral("MainKey"), 2);
@@ -141,14 +141,14 @@ TEST_F(FrmInport, AFileReviewedOntoAComputerLeavesItAsTheBulkReadWouldSaveTheRow
     // computer keeps its own; the trace cache's unit in the L3 unit, and the MCA flag and the
     // trace unit left as they were.
     EXPECT_EQ(differences(QStringLiteral("tbl_Pclist"), 1, 2), (std::map<QString, QString>{
-                                                                  {"Workgroup", "WORKGROUP|SOUMU"},
-                                                                  {"Memory_Full", "0|512"},
-                                                                  {"CPU_PAE", "0|1"},
-                                                                  {"CPU_MCA", "0|1"},
-                                                                  {"CPU_TM2", "1|0"},
-                                                                  {"CPU_L3_Cache_unit", "|Kμops"},
-                                                                  {"CPU_L1_Trace_Cache_unit", "Kμops|Kuops"},
-                                                              }));
+                                                                   {"Workgroup", "WORKGROUP|SOUMU"},
+                                                                   {"Memory_Full", "0|512"},
+                                                                   {"CPU_PAE", "0|1"},
+                                                                   {"CPU_MCA", "0|1"},
+                                                                   {"CPU_TM2", "1|0"},
+                                                                   {"CPU_L3_Cache_unit", "|Kμops"},
+                                                                   {"CPU_L1_Trace_Cache_unit", "Kμops|Kuops"},
+                                                               }));
     EXPECT_EQ(before.at(QStringLiteral("CPU_PAE")), QStringLiteral("1"));
     EXPECT_EQ(before.at(QStringLiteral("CPU_L1_Trace_Cache_unit")), QStringLiteral("Kuops"));
     // of the administrative record the type and the serial number only: no codes, no date
@@ -200,13 +200,15 @@ TEST_F(FrmInport, AnEnglishFileFillsOnlyTheRowsWhoseKeywordsAgreeAndTheOverwrite
     overwrite(w);
     EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
     ended.clear();
-    EXPECT_TRUE(dialogs.messages().back().prompt.startsWith(QStringLiteral("実行時エラー '13':"))) << dialogs.messages().back().prompt.toStdString();
+    EXPECT_TRUE(dialogs.messages().back().prompt.startsWith(QStringLiteral("実行時エラー '13':")))
+        << dialogs.messages().back().prompt.toStdString();
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Computer_Name, Workgroup, IPAddress, IPAddress_16num, \"Update\", MacAddress, "
                                          "Memory_Full FROM tbl_Pclist WHERE MainKey = 1")),
               QStringList{QStringLiteral("||||||") + memory});
     EXPECT_NE(name, QString());
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Application_Name FROM tbl_ApplicationsList WHERE \"Key\" = 1 ORDER BY rowid")),
-              QStringLiteral("Microsoft Office Professional Edition 2003")) << "the row-wise data are the old ones";
+              QStringLiteral("Microsoft Office Professional Edition 2003"))
+        << "the row-wise data are the old ones";
 }
 
 TEST_F(FrmInport, TheGuardsOfTheWindow)

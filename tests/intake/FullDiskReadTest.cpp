@@ -26,7 +26,8 @@ QStringList ReportedKeys(const QStringList& lines)
 // per-computer tables.
 QString Computer(TempLedger& l, const QString& key)
 {
-    QString out = l.rows(QStringLiteral("SELECT * FROM tbl_Pclist WHERE MainKey = %1").arg(key)).join(QString()).section(QLatin1Char('|'), 1);
+    QString out =
+        l.rows(QStringLiteral("SELECT * FROM tbl_Pclist WHERE MainKey = %1").arg(key)).join(QString()).section(QLatin1Char('|'), 1);
     for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})
         out += QLatin1Char('/') + l.value(QStringLiteral("SELECT count(*) FROM %1 WHERE \"Key\" = %2").arg(QLatin1String(table), key));
     return out;
@@ -68,7 +69,8 @@ TEST(FullDisk, TheReadFailsAndTheLedgerAloneHoldsExactlyTheComputersItReportedEa
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey FROM tbl_Pclist WHERE MainKey > 0 ORDER BY MainKey")), expected);
     for (const QString& key : expected)
         EXPECT_EQ(Computer(ledger, key), whole) << "computer " << key.toStdString();
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_ApplicationsList WHERE \"Key\" NOT IN (SELECT MainKey FROM tbl_Computer_List)")),
+    EXPECT_EQ(ledger.value(
+                  QStringLiteral("SELECT count(*) FROM tbl_ApplicationsList WHERE \"Key\" NOT IN (SELECT MainKey FROM tbl_Computer_List)")),
               QStringLiteral("0"));
 }
 

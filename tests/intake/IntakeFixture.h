@@ -17,7 +17,6 @@
 #include <utility>
 #include <vector>
 
-
 inline QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
 
 // Field and expected stored text, "NULL" for Null.
@@ -29,7 +28,8 @@ inline void ExpectRow(TempLedger& ledger, const QString& table, int key, const F
     QStringList names;
     for (const auto& [field, value] : expected)
         names << QLatin1Char('"') + field + QLatin1Char('"');
-    const QStringList rows = ledger.rows(QStringLiteral("SELECT %1 FROM %2 WHERE MainKey = %3").arg(names.join(QLatin1Char(',')), table).arg(key));
+    const QStringList rows =
+        ledger.rows(QStringLiteral("SELECT %1 FROM %2 WHERE MainKey = %3").arg(names.join(QLatin1Char(',')), table).arg(key));
     ASSERT_EQ(rows.size(), 1) << table.toStdString() << " has no row " << key;
     const QStringList cells = rows.first().split(QLatin1Char('|'));
     ASSERT_EQ(cells.size(), qsizetype(expected.size()));

@@ -68,8 +68,9 @@ TEST(InventoryFieldMap, BulkReadStatementsAreTheSystemsInWalkingOrder)
             frames.push_back({sql.section(mark, 0, 0), sql.section(mark, 1), row.row});
         if (row.row == 1) {
             for (const char* code : {"Location_Code", "User_Code", "Manufacturer_Code", "Model_Code", "Asset_Code"})
-                frames.push_back({QStringLiteral("UPDATE tbl_Computer_List SET tbl_Computer_List.[%1] = 0 WHERE MainKey = 5").arg(QLatin1String(code)),
-                                  QString(), 1});
+                frames.push_back(
+                    {QStringLiteral("UPDATE tbl_Computer_List SET tbl_Computer_List.[%1] = 0 WHERE MainKey = 5").arg(QLatin1String(code)),
+                     QString(), 1});
         }
     }
     const QStringList updates = Section(kBulkUpdates);
@@ -107,28 +108,28 @@ TEST(InventoryFieldMap, ValuesAreConvertedByKind)
     };
     const QString longText = QStringLiteral("あ").repeated(300);
     const std::vector<Case> cases = {
-        {34, 4, QStringLiteral("2.6"), QStringLiteral("3")},          // number: to the nearest whole
-        {34, 4, QStringLiteral("2.5"), QStringLiteral("2")},          // a half to the even one
+        {34, 4, QStringLiteral("2.6"), QStringLiteral("3")}, // number: to the nearest whole
+        {34, 4, QStringLiteral("2.5"), QStringLiteral("2")}, // a half to the even one
         {34, 4, QStringLiteral("3.5"), QStringLiteral("4")},
         {34, 4, QStringLiteral("-7"), QStringLiteral("-7")},
-        {7, 4, QStringLiteral("512MB"), QStringLiteral("0")},         // no number: 0
+        {7, 4, QStringLiteral("512MB"), QStringLiteral("0")}, // no number: 0
         {7, 4, QString(), QStringLiteral("0")},
-        {7, 4, QStringLiteral("3000000000"), QStringLiteral("0")},    // past 32 bits: 0
-        {42, 4, QString(), QStringLiteral("0")},                      // guarded
+        {7, 4, QStringLiteral("3000000000"), QStringLiteral("0")}, // past 32 bits: 0
+        {42, 4, QString(), QStringLiteral("0")},                   // guarded
         {42, 4, QStringLiteral("16"), QStringLiteral("16")},
-        {53, 4, QStringLiteral("TRUE"), QStringLiteral("1")},         // flag
+        {53, 4, QStringLiteral("TRUE"), QStringLiteral("1")}, // flag
         {53, 4, QStringLiteral("1"), QStringLiteral("1")},
         {53, 4, QStringLiteral("True"), QStringLiteral("0")},
         {53, 4, QStringLiteral("yes"), QStringLiteral("0")},
-        {99, 5, QStringLiteral("True"), QStringLiteral("1")},         // setting flag
+        {99, 5, QStringLiteral("True"), QStringLiteral("1")}, // setting flag
         {99, 5, QStringLiteral("1"), QStringLiteral("1")},
         {99, 5, QStringLiteral("TRUE"), QStringLiteral("0")},
         {4, 4, QStringLiteral("192.168.0.1"), QStringLiteral("C0A80001")},
         {4, 4, QStringLiteral("999.1.1.1"), QStringLiteral("FFFFFFFF")},
         {4, 4, QString(), QString()},
-        {1, 4, longText, longText.left(255)},                          // text: 255 characters
-        {5, 3, longText, longText.left(255)},                          // date
-        {8, 5, QStringLiteral(" KB "), QStringLiteral(" KB ")},       // unit: as it stands
+        {1, 4, longText, longText.left(255)},                   // text: 255 characters
+        {5, 3, longText, longText.left(255)},                   // date
+        {8, 5, QStringLiteral(" KB "), QStringLiteral(" KB ")}, // unit: as it stands
     };
     for (const Case& c : cases) {
         Mdl_Access_mdb::FirstRow record;
@@ -170,11 +171,11 @@ protected:
 TEST_F(FieldLookupInStaging, FindsWhatTheSelectFindsForEveryRow)
 {
     QByteArray bytes = ReadTestData(QStringLiteral("inventory/ja_pc01.csv"));
-    bytes.replace(",LAN,\x83R", ",lan,\x83R");                      // the computer's name under "lan"
+    bytes.replace(",LAN,\x83R", ",lan,\x83R"); // the computer's name under "lan"
     bytes.replace(",CPU,Clock,", ",Cpu,clock,");
-    bytes += "90,Hard,CPU,NAME,Second name,,\r\n"                    // later: the first one counts
+    bytes += "90,Hard,CPU,NAME,Second name,,\r\n" // later: the first one counts
              "91,Soft,Internet,setting,Start Page,http://late/,\r\n"
-             "92,Network,Adapter,IP address ,10.9.9.9,,\r\n"          // a blank behind: no match
+             "92,Network,Adapter,IP address ,10.9.9.9,,\r\n" // a blank behind: no match
              "93,Soft,Windows,Version,2000,,2006/01/15 09:05:00\r\n";
     bytes += ReadTestData(QStringLiteral("inventory/en_pc02.csv")).mid(50);
     files.write(QStringLiteral("mixed.csv"), bytes);

@@ -19,9 +19,10 @@ TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
     const QString caseHeader = Inventory(QStringLiteral("bad_header_case.csv"));
     AdminRun r = Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path(), ja, caseHeader, ja});
     EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
-    EXPECT_EQ(r.out, (QStringList{ja + QStringLiteral(": MainKey 1"),
-                                  caseHeader + QStringLiteral(": refused, the first line is not Key,Group,Item,SubItem,Contents,Unit,Renewalday"),
-                                  ja + QStringLiteral(": MainKey 2"), QStringLiteral("2 of 3 files read, 1 refused")}));
+    EXPECT_EQ(r.out,
+              (QStringList{ja + QStringLiteral(": MainKey 1"),
+                           caseHeader + QStringLiteral(": refused, the first line is not Key,Group,Item,SubItem,Contents,Unit,Renewalday"),
+                           ja + QStringLiteral(": MainKey 2"), QStringLiteral("2 of 3 files read, 1 refused")}));
 
     // the second run goes on from the highest key, with the English reader
     const QString en = Inventory(QStringLiteral("en_pc02.csv"));
@@ -36,7 +37,8 @@ TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
               (QStringList{"1|PC-SOUMU-01|0", "2|PC-SOUMU-01|0", "3|SALES-PC07|1"}));
     // staging holds the last accepted file
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97);
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Contents FROM tbl_ReadCsv WHERE SubItem = 'Computer name'")), QStringLiteral("SALES-PC07"));
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Contents FROM tbl_ReadCsv WHERE SubItem = 'Computer name'")),
+              QStringLiteral("SALES-PC07"));
 }
 
 TEST_F(ReadCommand, AnUnreadableFileIsReportedAndMadeFromTheStagedRows)
@@ -46,9 +48,11 @@ TEST_F(ReadCommand, AnUnreadableFileIsReportedAndMadeFromTheStagedRows)
     const QString gone = other.file(QStringLiteral("gone.csv"));
     const AdminRun r = Admin({QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path(), ja, gone});
     EXPECT_EQ(r.exitCode, 2);
-    EXPECT_EQ(r.out, (QStringList{ja + QStringLiteral(": MainKey 1"),
-                                  gone + QStringLiteral(": refused, cannot be read (ファイルが見つかりません。); MainKey 2 made from the staged file"),
-                                  QStringLiteral("1 of 2 files read, 1 refused")}));
+    EXPECT_EQ(
+        r.out,
+        (QStringList{ja + QStringLiteral(": MainKey 1"),
+                     gone + QStringLiteral(": refused, cannot be read (ファイルが見つかりません。); MainKey 2 made from the staged file"),
+                     QStringLiteral("1 of 2 files read, 1 refused")}));
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Computer_Name FROM tbl_Pclist WHERE MainKey = 2")), QStringLiteral("PC-SOUMU-01"));
 }
 

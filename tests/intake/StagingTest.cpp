@@ -19,12 +19,12 @@ TEST(CsvHeader, OnlyTheExactSevenNamesPass)
     EXPECT_TRUE(CheckCsvHeader(kHeader));
     const QStringList refused = {
         QString(),
-        QStringLiteral("Key,Group,Item,Subitem,Contents,Unit,Renewalday"),   // case
-        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit"),              // one short
-        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday,"),  // one more comma
-        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday "),  // trailing blank
+        QStringLiteral("Key,Group,Item,Subitem,Contents,Unit,Renewalday"),  // case
+        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit"),             // one short
+        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday,"), // one more comma
+        QStringLiteral("Key,Group,Item,SubItem,Contents,Unit,Renewalday "), // trailing blank
         QStringLiteral("Key Group Item SubItem Contents Unit Renewalday"),
-        QChar(0xFEFF) + kHeader,                                             // no BOM handling
+        QChar(0xFEFF) + kHeader, // no BOM handling
         QStringLiteral("Group,Key,Item,SubItem,Contents,Unit,Renewalday"),
     };
     for (const QString& line : refused)
@@ -119,8 +119,8 @@ TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
 TEST_F(Staging, EachLineIsDecodedAsLineInputDecodesIt)
 {
     std::mt19937 dice(7);
-    const QByteArray pieces[] = {"a", "Z", "0", " ", "\"", "\x82\xa0", "\x83\x52", "\x81", "\x9f", "\xe0", "\xfc", "\xfd",
-                                 "\xa0", "\x80", "\xff", "\x82\x63", "\xb1", "\x00", "\x88\x9f"};
+    const QByteArray pieces[] = {"a",    "Z",    "0",    " ",    "\"",   "\x82\xa0", "\x83\x52", "\x81", "\x9f",    "\xe0",
+                                 "\xfc", "\xfd", "\xa0", "\x80", "\xff", "\x82\x63", "\xb1",     "\x00", "\x88\x9f"};
     const QByteArray ends[] = {"\r\n", "\n", "\r", "\r\r\n", "\n\r"};
     for (int file = 0; file < 40; ++file) {
         QByteArray bytes = kHeader.toLatin1() + "\r\n";
@@ -134,7 +134,7 @@ TEST_F(Staging, EachLineIsDecodedAsLineInputDecodesIt)
             bytes += ends[dice() % std::size(ends)];
         }
         if (file % 2)
-            bytes.chop(1);  // a last line with its end cut, or no end
+            bytes.chop(1); // a last line with its end cut, or no end
         const QString path = write(QStringLiteral("random%1.csv").arg(file), bytes);
 
         const std::optional<StagedLines> lines = ReadInventoryLines(path);
@@ -158,19 +158,21 @@ TEST_F(Staging, LoneCarriageReturnsAndLineFeedsEndLinesToo)
 {
     const QString path = write(QStringLiteral("mixed.csv"), kHeader.toLatin1() + "\r1,a,b,c,d,e,f\n2,g,h,i,j,k,l\r\n3,m,n,o,p,q,r");
     ASSERT_TRUE(ReadCsvToStaging(path));
-    EXPECT_EQ(staging(), (QStringList{QStringLiteral("1|a|b|c|d|e|f"), QStringLiteral("2|g|h|i|j|k|l"),
-                                      QStringLiteral("3|m|n|o|p|q|r")}));
+    EXPECT_EQ(staging(), (QStringList{QStringLiteral("1|a|b|c|d|e|f"), QStringLiteral("2|g|h|i|j|k|l"), QStringLiteral("3|m|n|o|p|q|r")}));
 }
 
 TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
 {
     // the middle application's date is too long for [Update]: that row alone is lost
     const QByteArray longDate(300, '9');
-    const QString path = write(QStringLiteral("apps.csv"), kHeader.toLatin1() + "\r\n"
-                                   "1,Soft,Application,Tom's Tool,1.0,C:\\Tools\\,2005/12/04 10:30:15\r\n"
-                                   "2,Soft,Application,Too Late,2.0,C:\\Late\\," + longDate + "\r\n"
-                                   "3,Soft,Application,Calc;Pro #2,3.0,D:\\Calc\\,2005/12/05\r\n"
-                                   "4,Environmental,PATH,C:\\bin;D:\\bin,,,2005/12/06\r\n");
+    const QString path = write(QStringLiteral("apps.csv"), kHeader.toLatin1()
+                                                               + "\r\n"
+                                                                 "1,Soft,Application,Tom's Tool,1.0,C:\\Tools\\,2005/12/04 10:30:15\r\n"
+                                                                 "2,Soft,Application,Too Late,2.0,C:\\Late\\,"
+                                                               + longDate
+                                                               + "\r\n"
+                                                                 "3,Soft,Application,Calc;Pro #2,3.0,D:\\Calc\\,2005/12/05\r\n"
+                                                                 "4,Environmental,PATH,C:\\bin;D:\\bin,,,2005/12/06\r\n");
     ASSERT_TRUE(ReadCsvToStaging(path));
     CopyAllStagingRows(QStringLiteral("7"));
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Application_Name, Application_Version, Application_Path "
@@ -189,10 +191,12 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
                     QStringLiteral("2"), 2);
     CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
                     QStringLiteral("3"), 3);
-    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
-                    QStringLiteral("4"), 4);
+    CopyStagingRows(
+        env, QStringLiteral("INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
+        QStringLiteral("4"), 4);
     CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( [Key] ) VALUES("), QStringLiteral("9"), 9);
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path, Coments FROM tbl_Environmental ORDER BY rowid")),
+    EXPECT_EQ(ledger.rows(QStringLiteral(
+                  "SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path, Coments FROM tbl_Environmental ORDER BY rowid")),
               (QStringList{QStringLiteral("1|NULL|PATH|C：￥bin；D：￥bin|NULL"), QStringLiteral("2|NULL|NULL|C：￥bin；D：￥bin|"),
                            QStringLiteral("3|NULL|C：￥bin；D：￥bin||"), QStringLiteral("4|PATH|C：￥bin；D：￥bin||")}));
 }
@@ -203,18 +207,22 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
 TEST_F(Staging, CopiesFromTheStagedLinesAsFromTheTable)
 {
     const QByteArray longDate(300, '9');
-    const QString path = write(QStringLiteral("cases.csv"), kHeader.toLatin1() + "\r\n"
-                                   "1,Soft,Application,First,1.0,C:\\A\\,2005/12/04\r\n"
-                                   "2,soft,APPLICATION,Second,2.0,,2005/12/05\r\n"
-                                   "3,Soft,Application ,Blank behind,,,x\r\n"
-                                   "4,Soft,Application,Too long,,," + longDate + "\r\n"
-                                   "5,DEVICE,Disk,Drive 'A',Maker;Co,1#2,2006\r\n"
-                                   "6,\x82\x63" "evice,Disk,Full-width D,,,\r\n"
-                                   "7,Hard,printer,P1,LPT1:,,2006\r\n"
-                                   "8,Hard,Printers,P2,,,\r\n"
-                                   "9,environmental,PATH,C:\\bin,,,2006\r\n"
-                                   "10,Environmental,TEMP,C:\\tmp,,,\r\n"
-                                   "11,Soft,Application,Third,3.0,,2005/12/06\r\n");
+    const QString path = write(QStringLiteral("cases.csv"), kHeader.toLatin1()
+                                                                + "\r\n"
+                                                                  "1,Soft,Application,First,1.0,C:\\A\\,2005/12/04\r\n"
+                                                                  "2,soft,APPLICATION,Second,2.0,,2005/12/05\r\n"
+                                                                  "3,Soft,Application ,Blank behind,,,x\r\n"
+                                                                  "4,Soft,Application,Too long,,,"
+                                                                + longDate
+                                                                + "\r\n"
+                                                                  "5,DEVICE,Disk,Drive 'A',Maker;Co,1#2,2006\r\n"
+                                                                  "6,\x82\x63"
+                                                                  "evice,Disk,Full-width D,,,\r\n"
+                                                                  "7,Hard,printer,P1,LPT1:,,2006\r\n"
+                                                                  "8,Hard,Printers,P2,,,\r\n"
+                                                                  "9,environmental,PATH,C:\\bin,,,2006\r\n"
+                                                                  "10,Environmental,TEMP,C:\\tmp,,,\r\n"
+                                                                  "11,Soft,Application,Third,3.0,,2005/12/06\r\n");
     const auto all = [&] {
         QStringList rows;
         for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})

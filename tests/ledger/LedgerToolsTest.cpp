@@ -3,12 +3,12 @@
 #include "support/TempDir.h"
 #include "support/TempLedger.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSet>
 #include <QThread>
-#include <QDir>
 
 #include <gtest/gtest.h>
 
@@ -77,7 +77,8 @@ TEST(Backup, CopiesALedgerWhileAReadWritesItAndNeverOverwrites)
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("never overwrites"))) << r.err.toStdString();
     EXPECT_EQ(out.read(QStringLiteral("existing.mdb")), QByteArray("mine"));
-    r = Admin({QStringLiteral("backup"), QStringLiteral("--ledger"), out.file(QStringLiteral("none.mdb")), out.file(QStringLiteral("x.mdb"))});
+    r = Admin(
+        {QStringLiteral("backup"), QStringLiteral("--ledger"), out.file(QStringLiteral("none.mdb")), out.file(QStringLiteral("x.mdb"))});
     EXPECT_EQ(r.exitCode, 1);
     EXPECT_FALSE(QFileInfo::exists(out.file(QStringLiteral("x.mdb"))));
     EXPECT_EQ(QDir(out.path()).entryList(QDir::Files).size(), 4) << "no temporary file is left";
@@ -120,8 +121,8 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
 {
     const int page = ledger.value(QStringLiteral("SELECT rootpage FROM sqlite_master WHERE name = 'tbl_Pclist'")).toInt();
     const int size = ledger.value(QStringLiteral("PRAGMA page_size")).toInt();
-    const QStringList roots = ledger.rows(QStringLiteral(
-        "SELECT rootpage FROM sqlite_master WHERE type = 'table' AND name LIKE 'tbl_%' AND name <> 'tbl_Pclist' LIMIT 7"));
+    const QStringList roots = ledger.rows(
+        QStringLiteral("SELECT rootpage FROM sqlite_master WHERE type = 'table' AND name LIKE 'tbl_%' AND name <> 'tbl_Pclist' LIMIT 7"));
     ASSERT_EQ(roots.size(), 7);
     ledger.closeConnection();
     QFile f(ledger.path());

@@ -48,10 +48,7 @@ protected:
         combo.setCurrentIndex(index);
         Q_EMIT combo.activated(index);
     }
-    QStringList assignments()
-    {
-        return ledger.rows(QStringLiteral("SELECT * FROM tbl_License_Dat ORDER BY Key"));
-    }
+    QStringList assignments() { return ledger.rows(QStringLiteral("SELECT * FROM tbl_License_Dat ORDER BY Key")); }
     static std::array<bool, 3> menus(const frm_Edit_License& w)
     {
         return {w.Mnu_AddRecord->isEnabled(), w.Mnu_Update->isEnabled(), w.Mnu_DeleteRecord->isEnabled()};
@@ -99,7 +96,7 @@ TEST_F(Assignment, AnAssignmentIsAddedChangedAndDeletedWithTheCommentCutTo50Then
     const QString comment = QString(45, u'あ') + QStringLiteral("12345");
     w.tbx_ProductID->setText(QStringLiteral("55274-640"));
     choose(*w.cmb_Payment_Type, 1);
-    w.cmb_AssetType->setEditText(QStringLiteral("ボリューム"));  // a free text is stored as typed
+    w.cmb_AssetType->setEditText(QStringLiteral("ボリューム")); // a free text is stored as typed
     w.tbx_Comment->setText(comment + QStringLiteral("X"));
     w.Mnu_AddRecord->trigger();
     EXPECT_EQ(assignments(), QStringList{"1|2|1|55274-640|||リース|ボリューム|0|" + comment + "|2006/03/31"});
@@ -153,7 +150,7 @@ TEST_F(Assignment, TheGridShowsLiveChainsOnlyGraysRetiredAndDeletedAndFiltersByA
     assignment(1, 1, 1, QStringLiteral("Purchase_Price = 12000"));
     assignment(2, 2, 2);
     assignment(3, 1, 3);
-    assignment(4, 9, 1);  // its purchase line was deleted
+    assignment(4, 9, 1); // its purchase line was deleted
     frm_Edit_License& w = open();
     const ui::FlexGrid& grid = *w.FGrid_EditLicense;
     EXPECT_EQ(cells(grid, 2), (QStringList{"ウイルスバスター2006|PC-EIGYO-02||||||佐藤|||別館||",

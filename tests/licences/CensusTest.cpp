@@ -73,8 +73,7 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
     click(*w.MSFlexGrid_Applications, 2);
     EXPECT_EQ(w.tbx_ApplicationName->text(), QStringLiteral("Office"));
     EXPECT_EQ(w.tbx_ApplicationNum->text(), QStringLiteral("4"));
-    EXPECT_EQ(sorted(cells(*w.MSFlexGrid_User, 1)),
-              (QStringList{"PC-A|本館1F||||11.0", "PC-B|別館|||佐藤|11.0", "PC-B|別館|||佐藤|12.0"}));
+    EXPECT_EQ(sorted(cells(*w.MSFlexGrid_User, 1)), (QStringList{"PC-A|本館1F||||11.0", "PC-B|別館|||佐藤|11.0", "PC-B|別館|||佐藤|12.0"}));
     EXPECT_EQ(w.MSFlexGrid_User->CellBackColorAt(2, 5), ui::QBColor(8)) << "a deleted user";
     EXPECT_EQ(w.MSFlexGrid_User->CellBackColorAt(2, 2), ui::QBColor(15));
 

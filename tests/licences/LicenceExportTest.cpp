@@ -15,10 +15,7 @@
 
 namespace {
 
-QByteArray expected(const char* name)
-{
-    return ReadTestData(QStringLiteral("licences/") + QLatin1String(name));
-}
+QByteArray expected(const char* name) { return ReadTestData(QStringLiteral("licences/") + QLatin1String(name)); }
 
 class LicenceExport : public LicencesFixture {
 protected:
@@ -30,8 +27,8 @@ protected:
     {
         const QString path = ledger.path();
         const QString inventory = QStringLiteral(FENWOLD_TEST_DATA_DIR "/inventory/");
-        for (const QStringList& read : {QStringList{"ja_pc01.csv", "ja_pc03.txt"}, QStringList{"--english", "en_pc02.csv"},
-                                        QStringList{"ja_pc01.csv"}}) {
+        for (const QStringList& read :
+             {QStringList{"ja_pc01.csv", "ja_pc03.txt"}, QStringList{"--english", "en_pc02.csv"}, QStringList{"ja_pc01.csv"}}) {
             QStringList args{QStringLiteral("read"), QStringLiteral("--ledger"), path};
             for (const QString& a : read)
                 args << (a.startsWith(u'-') ? a : inventory + a);
@@ -56,11 +53,13 @@ protected:
         purchase(1, QStringLiteral("'Microsoft Office Professional Edition 2003'"), 10);
         purchase(2, QStringLiteral("'ウイルスバスター2006'"), 5);
         ledger.exec(QStringLiteral("INSERT INTO tbl_License_Key (Key) VALUES (3)"));
-        assignment(1, 2, 1, QStringLiteral("ProductID = 'PID-0001', Licence_No = 'L-0001', Install_Key = 'QW3ER-TY5UI', "
-                                           "Payment_Type = 'リース', Asset_Type = 'パッケージ FPP', Purchase_Price = 12000, "
-                                           "Comment = '総務部 共用機', \"Update\" = '2006/03/31'"));
-        assignment(2, 1, 4, QStringLiteral("ProductID = '55274-640', Payment_Type = '現金', Asset_Type = 'License', "
-                                           "Purchase_Price = 0, Comment = '撤去済み'"));
+        assignment(1, 2, 1,
+                   QStringLiteral("ProductID = 'PID-0001', Licence_No = 'L-0001', Install_Key = 'QW3ER-TY5UI', "
+                                  "Payment_Type = 'リース', Asset_Type = 'パッケージ FPP', Purchase_Price = 12000, "
+                                  "Comment = '総務部 共用機', \"Update\" = '2006/03/31'"));
+        assignment(2, 1, 4,
+                   QStringLiteral("ProductID = '55274-640', Payment_Type = '現金', Asset_Type = 'License', "
+                                  "Purchase_Price = 0, Comment = '撤去済み'"));
         assignment(3, 2, 3);
         assignment(4, 3, 2);
         assignment(5, 9, 2);
@@ -138,9 +137,11 @@ TEST_F(LicenceExport, ANameWithAQuoteFailsTheSelectAndBadChoicesAreRefused)
     const std::pair<QStringList, const char*> refused[] = {
         {{QStringLiteral("census-computers")}, "--application NAME is required"},
         {{QStringLiteral("census-computers"), QStringLiteral("--application"), QStringLiteral("一太郎")}, "no application named 一太郎"},
-        {{QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus, QStringLiteral("--location"), QStringLiteral("1")},
+        {{QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus, QStringLiteral("--location"),
+          QStringLiteral("1")},
          "no location 1"},
-        {{QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus, QStringLiteral("--location"), QStringLiteral("x")},
+        {{QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus, QStringLiteral("--location"),
+          QStringLiteral("x")},
          "--location takes a location code"},
     };
     for (const auto& [args, why] : refused) {

@@ -24,7 +24,8 @@ protected:
     // A computer with its two rows, on the code-0 maker and model.
     void computer(int key, const QString& name, int location = 0, int user = 0, int deleted = 0)
     {
-        ledger.computer(key, deleted, user, QStringLiteral("Computer_Name = '%1'").arg(name), QStringLiteral("Location_Code = %1").arg(location));
+        ledger.computer(key, deleted, user, QStringLiteral("Computer_Name = '%1'").arg(name),
+                        QStringLiteral("Location_Code = %1").arg(location));
     }
     // An application row of a computer's inventory; name and version are SQL literals.
     void installed(int computer, const QString& name, const QString& version = QStringLiteral("NULL"))

@@ -2,7 +2,6 @@
 // ledger, against the expected files; and the ways they end in silence.
 #include "MailFixture.h"
 
-
 #include "support/AdminProcess.h"
 #include "support/TempDir.h"
 
@@ -13,8 +12,8 @@
 namespace {
 
 struct Form {
-    const char* list;      // the word of fenwold-admin export
-    const char* expected;  // the file under tests/data/mail, without ".csv"
+    const char* list;     // the word of fenwold-admin export
+    const char* expected; // the file under tests/data/mail, without ".csv"
     QAction* frm_Edit_Mail::*command;
 };
 const Form kForms[] = {
@@ -47,8 +46,8 @@ TEST_F(MailExportTest, EachFormIsWrittenAlikeByTheWindowAndByTheCommand)
             SCOPED_TRACE(name.toStdString());
             const QByteArray expected = ReadTestData(QStringLiteral("mail/") + name + QStringLiteral(".csv"));
 
-            const AdminRun r = exportCommand(
-                form, location.isEmpty() ? QStringList{} : QStringList{QStringLiteral("--location"), location}, out.file(name));
+            const AdminRun r = exportCommand(form, location.isEmpty() ? QStringList{} : QStringList{QStringLiteral("--location"), location},
+                                             out.file(name));
             EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
             EXPECT_EQ(fileBytes(name), expected);
 
@@ -70,8 +69,9 @@ TEST_F(MailExportTest, AnEmptyRegisterWritesNothingButTheAddressBooksHeading)
     }
     EXPECT_EQ(fileBytes(QStringLiteral("mail")), QByteArray());
     EXPECT_EQ(fileBytes(QStringLiteral("mail-beatbox")), QByteArray());
-    EXPECT_EQ(fileBytes(QStringLiteral("mail-addressbook")),
-              ReadTestData(QStringLiteral("mail/addressbook.csv")).left(ReadTestData(QStringLiteral("mail/addressbook.csv")).indexOf('\n') + 1));
+    EXPECT_EQ(
+        fileBytes(QStringLiteral("mail-addressbook")),
+        ReadTestData(QStringLiteral("mail/addressbook.csv")).left(ReadTestData(QStringLiteral("mail/addressbook.csv")).indexOf('\n') + 1));
 
     frm_Edit_Mail& w = open();
     dialogs.answerFile(out.file(QStringLiteral("window")));

@@ -17,10 +17,9 @@ protected:
                                    "(3, '旧倉庫', '', '1')"));
         ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (1, '総務部', '', '0'), (2, '営業部', '', '1')"));
         ledger.exec(QStringLiteral("INSERT INTO tbl_Division VALUES (1, '庶務課', '', '0'), (2, '第一営業課', '', '0')"));
-        ledger.exec(QStringLiteral(
-            "INSERT INTO tbl_User (User_Code, User_Name, kana, Available_flug, Section_Code, Division_Code) VALUES "
-            "(1, '山田 太郎', 'やまだ たろう', '0', 1, 1), (2, '佐藤 花子', 'さとう はなこ', '0', 2, 2), "
-            "(3, '高橋 誠', 'たかはし まこと', '1', 1, 1), (4, '鈴木 一郎', 'すずき いちろう', '0', 9, 1)"));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, kana, Available_flug, Section_Code, Division_Code) VALUES "
+                                   "(1, '山田 太郎', 'やまだ たろう', '0', 1, 1), (2, '佐藤 花子', 'さとう はなこ', '0', 2, 2), "
+                                   "(3, '高橋 誠', 'たかはし まこと', '1', 1, 1), (4, '鈴木 一郎', 'すずき いちろう', '0', 9, 1)"));
         ledger.computer(1, 0, 0, "Computer_Name = 'PC-SOUMU-01', ipaddress = '192.168.0.10', Operating_System = 'Windows XP'",
                         "Location_Code = 1");
         ledger.computer(2, 0, 0, "Computer_Name = 'SALES-PC07', ipaddress = '10.1.20.107', Operating_System = 'Windows 2000'",

@@ -32,13 +32,14 @@ TEST_F(MailTest, TheGridListsTheAccountsWhoseUserAndComputerExistByAddress)
     QStringList heading;
     for (int c = 0; c < 18; ++c)
         heading << grid.TextMatrix(0, c);
-    EXPECT_EQ(heading, (QStringList{"Key", "", "ログインID", "氏名", "ふりがな", "Windowsユーザ名", "パスワード", "メールアドレス",
-                                    "SMTP", "POP", "メールBoxアカウント名", "メールBoxパスワード", "設置場所", "部", "課",
-                                    "コンピュータ名", "IPアドレス", "OS"}));
+    EXPECT_EQ(heading,
+              (QStringList{"Key", "", "ログインID", "氏名", "ふりがな", "Windowsユーザ名", "パスワード", "メールアドレス", "SMTP", "POP",
+                           "メールBoxアカウント名", "メールBoxパスワード", "設置場所", "部", "課", "コンピュータ名", "IPアドレス", "OS"}));
     // column 0 is a running number, the key hides in column 1; the retired computer stays
     EXPECT_EQ(cells(grid, 0).replaceInStrings(QRegularExpression(QStringLiteral("^(\\d\\|\\d).*")), QStringLiteral("\\1")),
               (QStringList{"1|5", "2|1", "3|2", "4|0"}));
-    EXPECT_EQ(cells(grid, 2)[0], QStringLiteral("sato02|佐藤 花子|さとう はなこ|sato-h||sato2@example.jp|||||旧倉庫|営業部|第一営業課|PC-OLD||"));
+    EXPECT_EQ(cells(grid, 2)[0],
+              QStringLiteral("sato02|佐藤 花子|さとう はなこ|sato-h||sato2@example.jp|||||旧倉庫|営業部|第一営業課|PC-OLD||"));
     EXPECT_EQ(grid.ColWidth(0), 600);
     EXPECT_EQ(grid.ColWidth(1), 0);
     EXPECT_EQ(grid.ColWidth(17), 1800);
@@ -61,8 +62,8 @@ TEST_F(MailTest, TheGridListsTheAccountsWhoseUserAndComputerExistByAddress)
     QStringList boxes;
     for (QLineEdit* b : w.tbx_tbl_Mail)
         boxes << b->text();
-    EXPECT_EQ(boxes, (QStringList{"yamada01", "yamada,t", "yt2004", "yamada@example.jp", "smtp.example.jp", "pop.example.jp",
-                                  "yamada", "mb-7731"}));
+    EXPECT_EQ(boxes, (QStringList{"yamada01", "yamada,t", "yt2004", "yamada@example.jp", "smtp.example.jp", "pop.example.jp", "yamada",
+                                  "mb-7731"}));
     EXPECT_EQ(w.cmb_User->currentText(), QStringLiteral("山田 太郎"));
     EXPECT_EQ(w.cmb_Computer->currentText(), QStringLiteral("PC-SOUMU-01"));
     EXPECT_TRUE(w.tbx_User->text().isEmpty());

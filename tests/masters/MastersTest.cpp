@@ -73,9 +73,10 @@ TEST_F(Masters, TheCodeTableEditorAddsUpdatesAndSoftDeletesInEachOfTheFiveTables
         click(*w.MSFlexGrid_Edit, 2);
         w.tbxEdit[2]->clear();
         w.Mnu_Update->trigger();
-        EXPECT_EQ(ledger.value(QStringLiteral("SELECT quote(%1) FROM %2 WHERE rowid = 3").arg(
-                      ledger.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table)).value(2), table)),
-                  QStringLiteral("''"));
+        EXPECT_EQ(
+            ledger.value(QStringLiteral("SELECT quote(%1) FROM %2 WHERE rowid = 3")
+                             .arg(ledger.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table)).value(2), table)),
+            QStringLiteral("''"));
 
         // No keeps the row; Yes flags it and it leaves the window
         click(*w.MSFlexGrid_Edit, 1);

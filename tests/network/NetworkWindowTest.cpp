@@ -64,8 +64,7 @@ TEST_F(NetworkWindow, DevicesAreAddedFilledInUpdatedWithoutBlankingAndDeleted)
     w.tbx_nunit[8]->setText(QStringLiteral("pass'word"));
     w.Mnu_Update->trigger();
     EXPECT_EQ(devices(), QStringList{"0|0|本社1F|NULL|ルータ|192.168.0.1|C0A80001|00:A0:DE:11:22:33|admin|pass'word"});
-    EXPECT_EQ(cells(*w.MSFlexGrid_NetworkUnit),
-              QStringList{"0|本社1F||ルータ||192.168.0.1|00:A0:DE:11:22:33|YAMAHA||||admin|pass'word"});
+    EXPECT_EQ(cells(*w.MSFlexGrid_NetworkUnit), QStringList{"0|本社1F||ルータ||192.168.0.1|00:A0:DE:11:22:33|YAMAHA||||admin|pass'word"});
     EXPECT_FALSE(w.Mnu_Update->isEnabled());
     EXPECT_FALSE(w.Mnu_Delete->isEnabled());
 
@@ -141,24 +140,26 @@ TEST_F(NetworkWindow, TheRebuildMergesComputersAndDevicesSortedByTheAddressKey)
     // computers first, in address order, then the devices as stored; the retired computer and
     // the one whose user has no row are left out; the device with a quote in its name is lost
     // with its key; a missing value is one blank
-    EXPECT_EQ(networkList(), (QStringList{
-                                 "0|本社1F|山田 太郎|PC-KAIHATSU| |10.0.0.255|0A0000FF|NEC|Mate MY26X| |SN-3| ",
-                                 "1| | |PC-EIGYO-02|EIGYO|192.168.0.9|C0A80009| | | | | ",
-                                 "2|本社1F|山田 太郎|PC-SOUMU-01|WORKGROUP|192.168.0.10|C0A8000A|NEC|Mate MY26X|PC-MY26XEZ7|5X0123456|00:0C:29:3A:5B:7C",
-                                 "3|本社1F|情報システム|ルータ|WORKGROUP|192.168.0.1|C0A80001|YAMAHA|RTX1000|RTX|S100|00:A0:DE:11:22:33",
-                                 "5| | |HUB| | | | | | | | ",
-                                 "6|倉庫| |NAS| |999.1.1.1|FFFFFFFF| | | | | ",
-                             }));
+    EXPECT_EQ(networkList(),
+              (QStringList{
+                  "0|本社1F|山田 太郎|PC-KAIHATSU| |10.0.0.255|0A0000FF|NEC|Mate MY26X| |SN-3| ",
+                  "1| | |PC-EIGYO-02|EIGYO|192.168.0.9|C0A80009| | | | | ",
+                  "2|本社1F|山田 太郎|PC-SOUMU-01|WORKGROUP|192.168.0.10|C0A8000A|NEC|Mate MY26X|PC-MY26XEZ7|5X0123456|00:0C:29:3A:5B:7C",
+                  "3|本社1F|情報システム|ルータ|WORKGROUP|192.168.0.1|C0A80001|YAMAHA|RTX1000|RTX|S100|00:A0:DE:11:22:33",
+                  "5| | |HUB| | | | | | | | ",
+                  "6|倉庫| |NAS| |999.1.1.1|FFFFFFFF| | | | | ",
+              }));
     // the grid merges them by the key: 192.168.0.9 before 192.168.0.10, the device without an
     // address first, the address of wrong form last; no ID and no password
-    EXPECT_EQ(cells(*w.MSFlexGrid_Network), (QStringList{
-                                                "1| | |HUB| | | | | | | ",
-                                                "2|本社1F|山田 太郎|PC-KAIHATSU| |10.0.0.255| |NEC|Mate MY26X| |SN-3",
-                                                "3|本社1F|情報システム|ルータ|WORKGROUP|192.168.0.1|00:A0:DE:11:22:33|YAMAHA|RTX1000|RTX|S100",
-                                                "4| | |PC-EIGYO-02|EIGYO|192.168.0.9| | | | | ",
-                                                "5|本社1F|山田 太郎|PC-SOUMU-01|WORKGROUP|192.168.0.10|00:0C:29:3A:5B:7C|NEC|Mate MY26X|PC-MY26XEZ7|5X0123456",
-                                                "6|倉庫| |NAS| |999.1.1.1| | | | | ",
-                                            }));
+    EXPECT_EQ(cells(*w.MSFlexGrid_Network),
+              (QStringList{
+                  "1| | |HUB| | | | | | | ",
+                  "2|本社1F|山田 太郎|PC-KAIHATSU| |10.0.0.255| |NEC|Mate MY26X| |SN-3",
+                  "3|本社1F|情報システム|ルータ|WORKGROUP|192.168.0.1|00:A0:DE:11:22:33|YAMAHA|RTX1000|RTX|S100",
+                  "4| | |PC-EIGYO-02|EIGYO|192.168.0.9| | | | | ",
+                  "5|本社1F|山田 太郎|PC-SOUMU-01|WORKGROUP|192.168.0.10|00:0C:29:3A:5B:7C|NEC|Mate MY26X|PC-MY26XEZ7|5X0123456",
+                  "6|倉庫| |NAS| |999.1.1.1| | | | | ",
+              }));
     EXPECT_EQ(w.MSFlexGrid_Network->TextMatrix(0, 10), QStringLiteral("シリアル"));
     EXPECT_EQ(w.MSFlexGrid_Network->CellBackColorAt(3, 0), ui::QBColor(8));
     EXPECT_EQ(w.MSFlexGrid_Network->CellAlignmentAt(0, 3), ui::flexAlignCenterBottom);

@@ -21,17 +21,16 @@ protected:
     // port is Null.
     void addPrinters()
     {
-        ledger.exec(QStringLiteral(
-            "INSERT INTO tbl_Printer_Management (Key, \"Update\", Printer_Name, PrinterPorts_Name) VALUES "
-            "(3, '2005/12/04', 'FAX', Null), "
-            "(2, '2005/12/04', 'Microsoft Office Document Image Writer', ''), "
-            "(1, '2005/12/04', 'EPSON LP-9000C', 'IP_192.168.0.201'), "
-            "(2, '2005/12/04', 'EPSON LP-9000C', 'IP_192.168.0.201'), "
-            "(5, '2005/12/04', 'EPSON LP-9000C', 'IP_192.168.0.201'), "
-            "(1, '2005/12/04', '総務部 カラーレーザー', 'LPT1:'), "
-            "(3, '2005/12/04', 'HP LaserJet 4050', '\\\\print01\\sales'), "
-            "(3, '2005/12/04', 'HP LaserJet 4050 (コピー 1)', '\\\\print01\\sales'), "
-            "(4, '2005/12/04', 'Canon LBP-1310', 'LPT1:')"));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_Printer_Management (Key, \"Update\", Printer_Name, PrinterPorts_Name) VALUES "
+                                   "(3, '2005/12/04', 'FAX', Null), "
+                                   "(2, '2005/12/04', 'Microsoft Office Document Image Writer', ''), "
+                                   "(1, '2005/12/04', 'EPSON LP-9000C', 'IP_192.168.0.201'), "
+                                   "(2, '2005/12/04', 'EPSON LP-9000C', 'IP_192.168.0.201'), "
+                                   "(5, '2005/12/04', 'EPSON LP-9000C', 'IP_192.168.0.201'), "
+                                   "(1, '2005/12/04', '総務部 カラーレーザー', 'LPT1:'), "
+                                   "(3, '2005/12/04', 'HP LaserJet 4050', '\\\\print01\\sales'), "
+                                   "(3, '2005/12/04', 'HP LaserJet 4050 (コピー 1)', '\\\\print01\\sales'), "
+                                   "(4, '2005/12/04', 'Canon LBP-1310', 'LPT1:')"));
     }
     AdminRun exportList(const QStringList& list, const QString& out)
     {
@@ -52,11 +51,8 @@ TEST_F(PrinterAndExport, ThePrinterListIsOneColumnPerPortWithTheComputersUnderIt
     // the ports in the ledger's order, which ignores case ("\\" sorts before "i" and "l"); the
     // printers without a port and the retired computer's are not shown, yet the two skipped ones
     // made the grid a row taller; every row is numbered from 0, the headings' included
-    EXPECT_EQ(cells(grid), (QStringList{"1|\\\\print01\\sales|IP_192.168.0.201|LPT1:",
-                                        "2|PC-KAIHATSU|PC-SOUMU-01|PC-SOUMU-01",
-                                        "3|PC-KAIHATSU|PC-EIGYO-02|",
-                                        "4||PC-NOUSER|",
-                                        "5|||"}));
+    EXPECT_EQ(cells(grid), (QStringList{"1|\\\\print01\\sales|IP_192.168.0.201|LPT1:", "2|PC-KAIHATSU|PC-SOUMU-01|PC-SOUMU-01",
+                                        "3|PC-KAIHATSU|PC-EIGYO-02|", "4||PC-NOUSER|", "5|||"}));
     EXPECT_EQ(grid.TextMatrix(0, 0), QStringLiteral("0"));
     EXPECT_EQ(grid.TextMatrix(0, 1), QStringLiteral("HP LaserJet 4050")) << "the first printer of the port names it";
     EXPECT_EQ(grid.TextMatrix(0, 2), QStringLiteral("EPSON LP-9000C"));
@@ -81,8 +77,7 @@ TEST_F(PrinterAndExport, ThePrinterListIsOneColumnPerPortWithTheComputersUnderIt
     // "一覧更新" reads the printers again: a computer retired since is gone with its column
     ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1 WHERE MainKey = 3"));
     w.Mnu_List_Update->trigger();
-    EXPECT_EQ(cells(grid), (QStringList{"1|IP_192.168.0.201|LPT1:", "2|PC-SOUMU-01|PC-SOUMU-01", "3|PC-EIGYO-02|",
-                                        "4|PC-NOUSER|", "5||"}));
+    EXPECT_EQ(cells(grid), (QStringList{"1|IP_192.168.0.201|LPT1:", "2|PC-SOUMU-01|PC-SOUMU-01", "3|PC-EIGYO-02|", "4|PC-NOUSER|", "5||"}));
 }
 
 TEST_F(PrinterAndExport, WithoutPrintersTheGridStaysEmptyAndTheExportIsAnEmptyFile)

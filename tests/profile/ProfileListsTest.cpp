@@ -2,9 +2,9 @@
 // chosen, and left standing when the next computer has no rows.
 #include "ProfileFixture.h"
 
+#include "platform/ui/Twips.h"
 #include "profile/DeviceIcons.h"
 #include "profile/ProfileLists.h"
-#include "platform/ui/Twips.h"
 
 #include <QTabBar>
 #include <QTreeWidget>
@@ -40,11 +40,10 @@ TEST_F(ProfileListPages, TheGridsShowTheComputersRowsInTableOrderWithTheirHeadin
     EXPECT_EQ(apps.TextMatrix(0, 1) + u'|' + apps.TextMatrix(0, 2) + u'|' + apps.TextMatrix(0, 3),
               QStringLiteral("アプリケーション名|インストール場所|バージョン"));
     EXPECT_EQ(apps.TextMatrix(0, 0), QString());
-    EXPECT_EQ(cells(apps), (QStringList{"1|Microsoft Office Professional Edition 2003|C：￥Program Files￥Microsoft Office￥|11.0.5614.0",
-                                        "2|ウイルスバスター2006|C：￥Program Files￥Trend Micro￥|14.10",
-                                        "3|Tom’s Mail Checker|C：￥Tools￥|1.2",
-                                        "4|Adobe Reader 7.0.5 - 日本語||",
-                                        "5|秀丸エディタ|16|4"}));
+    EXPECT_EQ(cells(apps),
+              (QStringList{"1|Microsoft Office Professional Edition 2003|C：￥Program Files￥Microsoft Office￥|11.0.5614.0",
+                           "2|ウイルスバスター2006|C：￥Program Files￥Trend Micro￥|14.10", "3|Tom’s Mail Checker|C：￥Tools￥|1.2",
+                           "4|Adobe Reader 7.0.5 - 日本語||", "5|秀丸エディタ|16|4"}));
     const QColor grey = ui::QBColor(8);
     EXPECT_EQ(apps.CellBackColorAt(0, 2), grey);
     EXPECT_EQ(apps.CellAlignmentAt(0, 2), ui::flexAlignCenterBottom);
@@ -58,9 +57,8 @@ TEST_F(ProfileListPages, TheGridsShowTheComputersRowsInTableOrderWithTheirHeadin
     EXPECT_EQ(cells(*w.MSFlexGrid_Printer), (QStringList{"1|EPSON LP-9000C|IP_192.168.0.201|", "2|総務部 カラーレーザー|LPT1：|"}));
     EXPECT_EQ(w.MSFlexGrid_Printer->TextMatrix(0, 2), QStringLiteral("プリンタポート"));
     w.TabStrip1->setCurrentIndex(5);
-    EXPECT_EQ(cells(*w.MSFlexGrid_Environmental),
-              (QStringList{"1|TEMP|C：￥DOCUME~1￥yamada￥LOCALS~1￥Temp|", "2|Path|C：￥WINDOWS￥system32；C：￥WINDOWS|",
-                           "3|OS|Windows_NT|"}));
+    EXPECT_EQ(cells(*w.MSFlexGrid_Environmental), (QStringList{"1|TEMP|C：￥DOCUME~1￥yamada￥LOCALS~1￥Temp|",
+                                                               "2|Path|C：￥WINDOWS￥system32；C：￥WINDOWS|", "3|OS|Windows_NT|"}));
     EXPECT_EQ(w.MSFlexGrid_Environmental->TextMatrix(0, 3), QStringLiteral("コメント"));
     EXPECT_TRUE(dialogs.calls().empty());
 }

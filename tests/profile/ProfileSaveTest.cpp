@@ -27,11 +27,16 @@ protected:
         sqlite3* db = Mdl_gData::DbConnection().handle();
         commits = 0;
         updated.clear();
-        sqlite3_commit_hook(db, [](void* n) { ++*static_cast<int*>(n); return 0; }, &commits);
-        sqlite3_update_hook(
-            db, [](void* u, int, const char*, const char* table, sqlite3_int64) {
-                *static_cast<QStringList*>(u) << QString::fromUtf8(table);
+        sqlite3_commit_hook(
+            db,
+            [](void* n) {
+                ++*static_cast<int*>(n);
+                return 0;
             },
+            &commits);
+        sqlite3_update_hook(
+            db,
+            [](void* u, int, const char*, const char* table, sqlite3_int64) { *static_cast<QStringList*>(u) << QString::fromUtf8(table); },
             &updated);
         w.Mnu_Update->trigger();
         sqlite3_commit_hook(db, nullptr, nullptr);
@@ -51,13 +56,13 @@ TEST_F(ProfileSaveTest, ThreeChangedFieldsAreWrittenAloneInOneTransactionAndRepo
 {
     frm_Edit_Computer& w = open(1);
     const QStringList before = record(1);
-    w.tbx_Dat[53]->setText(QStringLiteral("会議室へ移設"));   // tbl_Computer_List.Comment
-    w.tbx_Dat[7]->setText(QStringLiteral("2600"));           // tbl_Pclist.CPU_Clock
-    w.ChkBox[6]->setChecked(true);                            // tbl_Pclist.CPU_PAE, stored 0
+    w.tbx_Dat[53]->setText(QStringLiteral("会議室へ移設")); // tbl_Computer_List.Comment
+    w.tbx_Dat[7]->setText(QStringLiteral("2600"));          // tbl_Pclist.CPU_Clock
+    w.ChkBox[6]->setChecked(true);                          // tbl_Pclist.CPU_PAE, stored 0
     save(w);
 
-    EXPECT_EQ(changed(before, record(1)), (QStringList{"tbl_Pclist.CPU_Clock=2600", "tbl_Pclist.CPU_PAE=1",
-                                                       "tbl_Computer_List.Comment=会議室へ移設"}));
+    EXPECT_EQ(changed(before, record(1)),
+              (QStringList{"tbl_Pclist.CPU_Clock=2600", "tbl_Pclist.CPU_PAE=1", "tbl_Computer_List.Comment=会議室へ移設"}));
     EXPECT_EQ(commits, 1);
     EXPECT_EQ(updated, (QStringList{"tbl_Pclist", "tbl_Computer_List"}));
     ASSERT_EQ(dialogs.messages().size(), 1u);
@@ -106,22 +111,21 @@ TEST_F(ProfileSaveTest, EmptyMeansNullZeroMeansNothingAndTheTwoFlagFamiliesDiffe
 {
     frm_Edit_Computer& w = open(1);
     const QStringList before = record(1);
-    w.tbx_Dat[53]->clear();                           // Comment '窓際' emptied
-    w.tbx_Dat[52]->clear();                           // a Null that stays empty
-    w.tbx_Dat[7]->setText(QStringLiteral("0"));       // no field can be set to "0"
-    w.tbx_Dat[49]->setText(QStringLiteral("0"));      // not even an amount
-    w.ChkBox[0]->setChecked(false);                   // CPU_FPU 1 -> 0
-    w.Chk_Drive[0]->setChecked(true);                 // Floppydisk_Drive Null -> 1
+    w.tbx_Dat[53]->clear();                      // Comment '窓際' emptied
+    w.tbx_Dat[52]->clear();                      // a Null that stays empty
+    w.tbx_Dat[7]->setText(QStringLiteral("0"));  // no field can be set to "0"
+    w.tbx_Dat[49]->setText(QStringLiteral("0")); // not even an amount
+    w.ChkBox[0]->setChecked(false);              // CPU_FPU 1 -> 0
+    w.Chk_Drive[0]->setChecked(true);            // Floppydisk_Drive Null -> 1
     ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET CPU_3DNow = NULL WHERE MainKey = 1"));
-    w.ChkBox[23]->setChecked(true);                   // CPU_3DNow Null: left alone
+    w.ChkBox[23]->setChecked(true); // CPU_3DNow Null: left alone
     save(w);
     EXPECT_EQ(report(), QStringLiteral("FDドライブ を 有効  に \r\n"
                                        "コメント を 空欄 に \r\n"
                                        "CPU スペックFPU を 無効 に \r\n"
                                        "変更しました。"));
-    EXPECT_EQ(changed(before, record(1)),
-              (QStringList{"tbl_Pclist.Floppydisk_Drive=1", "tbl_Pclist.CPU_FPU=0", "tbl_Pclist.CPU_3DNow=NULL",
-                           "tbl_Computer_List.Comment=NULL"}));
+    EXPECT_EQ(changed(before, record(1)), (QStringList{"tbl_Pclist.Floppydisk_Drive=1", "tbl_Pclist.CPU_FPU=0", "tbl_Pclist.CPU_3DNow=NULL",
+                                                       "tbl_Computer_List.Comment=NULL"}));
 
     // a drive flag cleared
     dialogs.clear();
@@ -133,7 +137,7 @@ TEST_F(ProfileSaveTest, EmptyMeansNullZeroMeansNothingAndTheTwoFlagFamiliesDiffe
 TEST_F(ProfileSaveTest, CodesAndTheUserAreSavedByTheirKeyBoxesOnly)
 {
     frm_Edit_Computer& w = open(1);
-    w.cmb_Dat[5]->setEditText(QStringLiteral("打ち込んだだけのモデル"));   // text alone: nothing
+    w.cmb_Dat[5]->setEditText(QStringLiteral("打ち込んだだけのモデル")); // text alone: nothing
     w.cmb_Dat_DropDown(3);
     w.cmb_Dat[3]->setCurrentIndex(2);
     Q_EMIT w.cmb_Dat[3]->activated(2);
@@ -144,8 +148,7 @@ TEST_F(ProfileSaveTest, CodesAndTheUserAreSavedByTheirKeyBoxesOnly)
                                           "tbl_Computer_List WHERE MainKey = 1")),
               QStringLiteral("2 2 1"));
     // the section and the division follow the user; nothing is stored for them
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Section_Code || Division_Code FROM tbl_User WHERE User_Code = 2")),
-              QStringLiteral("10"));
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Section_Code || Division_Code FROM tbl_User WHERE User_Code = 2")), QStringLiteral("10"));
 }
 
 TEST_F(ProfileSaveTest, CapacitiesAreReadFromTheirDigitsAndALeaseDateIsStoredAsADate)

@@ -3,8 +3,8 @@
 #include "ProfileFixture.h"
 
 #include "platform/print/RecordingSurface.h"
-#include "platform/vb/Conversion.h"
 #include "platform/ui/DropDownCombo.h"
+#include "platform/vb/Conversion.h"
 
 #include "support/AdminProcess.h"
 
@@ -48,16 +48,41 @@ protected:
 
 // The fixed part of computer 1's sheet, line by line.
 const QStringList kFixedPart = {
-    "3 [ユーザー]", "4 □ ユーザ名: 山田 太郎", "5 □ 部: 　　　　総務部", "6 □ 課: 　　　　庶務課", "7 □ 設置場所: 本社3F",
-    "9 □ メーカー: NEC", "10 □ モデル:　 PC-MY26X", "11 □ マシンタイプ: PC-MY26XEZ7", "12 □ シリアル: 5X0123456",
-    "14 □ OS: Microsoft Windows XP Professional", "15 □ Product ID: 55274-640-1234567-23456", "16 □ OEM 製造業者: NEC",
-    "17 □ OEM モデル名: PC-MY26XEZ7", "18 □ Product Key: ", "19 □ CPU: Intel(R) Pentium(R) 4 CPU 2.60GHz",
-    "20 □ メモリ:  MB", "21 □ Cドライブ: 40,015 MB", "23 [ネットワーク]", "24 □ コンピュータ名: PC-SOUMU-01",
-    "25 □ ワークグループ: WORKGROUP", "27 □ IPアドレス: 192.168.0.10", "28 □ サブネットマスク: 255.255.255.0",
-    "29 □ デフォルトゲートウェイ: 192.168.0.1", "30 □ DNSサーバ: 192.168.0.1", "31 □ DNSサーバ(2): 192.168.0.3",
-    "32 □ Macアドレス: 00：0C：29：3A：5B：7C", "33 □ ネットワークカード: Intel(R) PRO/100 VE Network Connection",
-    "34 □ 接続先HUB: ", "36 □ DHCPサーバ: 192.168.0.1", "37 □ WINSサーバ: 192.168.0.2", "38 □ WINSサーバ(2): 169.254.0.9",
-    "40 □ ユーザ名: yamada", "41 □ パスワード: ", "42 □ ホスト名: pc-soumu-01", "43 □ ドメイン: ",
+    "3 [ユーザー]",
+    "4 □ ユーザ名: 山田 太郎",
+    "5 □ 部: 　　　　総務部",
+    "6 □ 課: 　　　　庶務課",
+    "7 □ 設置場所: 本社3F",
+    "9 □ メーカー: NEC",
+    "10 □ モデル:　 PC-MY26X",
+    "11 □ マシンタイプ: PC-MY26XEZ7",
+    "12 □ シリアル: 5X0123456",
+    "14 □ OS: Microsoft Windows XP Professional",
+    "15 □ Product ID: 55274-640-1234567-23456",
+    "16 □ OEM 製造業者: NEC",
+    "17 □ OEM モデル名: PC-MY26XEZ7",
+    "18 □ Product Key: ",
+    "19 □ CPU: Intel(R) Pentium(R) 4 CPU 2.60GHz",
+    "20 □ メモリ:  MB",
+    "21 □ Cドライブ: 40,015 MB",
+    "23 [ネットワーク]",
+    "24 □ コンピュータ名: PC-SOUMU-01",
+    "25 □ ワークグループ: WORKGROUP",
+    "27 □ IPアドレス: 192.168.0.10",
+    "28 □ サブネットマスク: 255.255.255.0",
+    "29 □ デフォルトゲートウェイ: 192.168.0.1",
+    "30 □ DNSサーバ: 192.168.0.1",
+    "31 □ DNSサーバ(2): 192.168.0.3",
+    "32 □ Macアドレス: 00：0C：29：3A：5B：7C",
+    "33 □ ネットワークカード: Intel(R) PRO/100 VE Network Connection",
+    "34 □ 接続先HUB: ",
+    "36 □ DHCPサーバ: 192.168.0.1",
+    "37 □ WINSサーバ: 192.168.0.2",
+    "38 □ WINSサーバ(2): 169.254.0.9",
+    "40 □ ユーザ名: yamada",
+    "41 □ パスワード: ",
+    "42 □ ホスト名: pc-soumu-01",
+    "43 □ ドメイン: ",
     "45 [アプリケーション]",
 };
 
@@ -74,21 +99,30 @@ TEST_F(ProfileSheet, ListsFlowOntoTheNextPageUnderARepeatedFrame)
     const QStringList ops = surface->Operations();
     ASSERT_GE(ops.size(), 13);
     EXPECT_EQ(ops.mid(0, 13),
-              (QStringList{"font ＭＳ ゴシック 9", "bold on", "italic on", "width 3", "text 10,3 PC-SOUMU-01",
-                           "text 168.887,3 1ページ", "line 10,6 180,6", "text 10,147 Fenwold", "text 164.125,147 2005/12/24",
-                           "line 10,147 150,147", "bold off", "italic off", "text 10,9 [ユーザー]"}));
+              (QStringList{"font ＭＳ ゴシック 9", "bold on", "italic on", "width 3", "text 10,3 PC-SOUMU-01", "text 168.887,3 1ページ",
+                           "line 10,6 180,6", "text 10,147 Fenwold", "text 164.125,147 2005/12/24", "line 10,147 150,147", "bold off",
+                           "italic off", "text 10,9 [ユーザー]"}));
     EXPECT_EQ(ops.last(), QStringLiteral("end"));
 
     // applications until line 47 (the last line with three to spare), then page 2 from line 3;
     // the printers after a gap, each with its port in brackets; the asset lines last
     QStringList expected = frame(1) + kFixedPart;
-    expected << "46 □ Microsoft Office Professional Edition 2003 (11.0.5614.0)" << "47 □ ウイルスバスター2006 (14.10)"
+    expected << "46 □ Microsoft Office Professional Edition 2003 (11.0.5614.0)"
+             << "47 □ ウイルスバスター2006 (14.10)"
              << "page";
     expected << frame(2);
-    expected << "3 □ Tom’s Mail Checker (1.2)" << "4 □ Adobe Reader 7.0.5 - 日本語" << "5 □ 秀丸エディタ (4)"
-             << "8 [プリンター]" << "9 □ EPSON LP-9000C (IP_192.168.0.201)" << "10 □ 総務部 カラーレーザー (LPT1：)"
-             << "13 [資産管理]" << "14 □ 購入先: " << "15 □ リース契約番号: " << "16 □ リース会社: "
-             << "17 □ リース開始日: 2005/04/01" << "18 □ リース終了日: ";
+    expected << "3 □ Tom’s Mail Checker (1.2)"
+             << "4 □ Adobe Reader 7.0.5 - 日本語"
+             << "5 □ 秀丸エディタ (4)"
+             << "8 [プリンター]"
+             << "9 □ EPSON LP-9000C (IP_192.168.0.201)"
+             << "10 □ 総務部 カラーレーザー (LPT1：)"
+             << "13 [資産管理]"
+             << "14 □ 購入先: "
+             << "15 □ リース契約番号: "
+             << "16 □ リース会社: "
+             << "17 □ リース開始日: 2005/04/01"
+             << "18 □ リース終了日: ";
     EXPECT_EQ(surface->Lines(3), expected);
     EXPECT_TRUE(dialogs.messages().empty());
     ASSERT_EQ(dialogs.calls().size(), 1u);
@@ -100,9 +134,9 @@ TEST_F(ProfileSheet, OnlyTheBandsChoicesKeepTheirUnsavedEditsAndEmptyListsPrintT
 {
     ledger.exec(QStringLiteral("DELETE FROM tbl_ApplicationsList WHERE \"Key\" = 2"));
     frm_Edit_Computer& w = open(1);
-    w.TabStrip1->setCurrentIndex(2);   // computer 1's applications in the grid
+    w.TabStrip1->setCurrentIndex(2); // computer 1's applications in the grid
     w.TabStrip1->setCurrentIndex(4);
-    w.cmd_Next_Click();                // computer 2: its one printer; no applications
+    w.cmd_Next_Click(); // computer 2: its one printer; no applications
     w.tbx_Dat[3]->setText(QStringLiteral("未保存の型番"));
     w.tbx_Drive[2]->setText(QStringLiteral("99"));
     w.cmb_Dat_DropDown(3);
@@ -111,10 +145,10 @@ TEST_F(ProfileSheet, OnlyTheBandsChoicesKeepTheirUnsavedEditsAndEmptyListsPrintT
     w.cmb_Dat[4]->setEditText(QStringLiteral("手入力のメーカー"));
     printSheet(w);
     const QStringList lines = surface->Lines(3);
-    for (const char* expected : {"1 SALES-PC07", "7 □ 設置場所: 大阪支店", "9 □ メーカー: 手入力のメーカー",
-                                 "11 □ マシンタイプ: OptiPlex GX270", "21 □ Cドライブ: 38,154 MB",
-                                 "46 □ Microsoft Office Professional Edition 2003 (11.0.5614.0)",
-                                 "9 □ HP LaserJet 4050 Series PCL6 (￥￥print01￥sales-lj)"})
+    for (const char* expected :
+         {"1 SALES-PC07", "7 □ 設置場所: 大阪支店", "9 □ メーカー: 手入力のメーカー", "11 □ マシンタイプ: OptiPlex GX270",
+          "21 □ Cドライブ: 38,154 MB", "46 □ Microsoft Office Professional Edition 2003 (11.0.5614.0)",
+          "9 □ HP LaserJet 4050 Series PCL6 (￥￥print01￥sales-lj)"})
         EXPECT_TRUE(lines.contains(QString::fromUtf8(expected))) << expected;
 }
 
@@ -153,7 +187,8 @@ TEST_F(ProfileSheet, TheCompanionProgramWritesTheSheetsIntoOnePdfWithItsFontEmbe
     // enough applications for computer 1 to need a second page on A4
     for (int i = 1; i <= 120; ++i)
         ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name, Application_Version) "
-                                   "VALUES (1, 'ソフト%1', '1.%1')").arg(i));
+                                   "VALUES (1, 'ソフト%1', '1.%1')")
+                        .arg(i));
     const QString out = ledger.dir().file(QStringLiteral("sheets.pdf"));
     const AdminRun run = Admin({"sheet", "--ledger", ledger.path(), "1", "2", out});
     ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();

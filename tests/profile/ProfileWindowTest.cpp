@@ -73,16 +73,15 @@ TEST_F(ProfileWindow, EveryBoxShowsItsColumnAsTheWindowRendersIt)
     EXPECT_EQ(texts(w.tbx_Dat),
               (QStringList{"PC-SOUMU-01", "WORKGROUP", "192.168.0.10", "PC-MY26XEZ7", "5X0123456",
                            // CPU
-                           "Intel Pentium 4", "Intel(R) Pentium(R) 4 CPU 2.60GHz", "3", "1", "0", "15", "2", "9", "",
-                           "GenuineIntel", "0", "8", "12", "512", "0",
+                           "Intel Pentium 4", "Intel(R) Pentium(R) 4 CPU 2.60GHz", "3", "1", "0", "15", "2", "9", "", "GenuineIntel", "0",
+                           "8", "12", "512", "0",
                            // network
                            "yamada", "", "pc-soumu-01", "", "総務部 共用機", "Microsoft Windows Network",
-                           "Intel(R) PRO/100 VE Network Connection", "C0A8000A", "255.255.255.0", "192.168.0.1",
-                           "192.168.0.1", "192.168.0.2", "169.254.0.9", "192.168.0.1", "192.168.0.3", "",
-                           "00：0C：29：3A：5B：7C",
+                           "Intel(R) PRO/100 VE Network Connection", "C0A8000A", "255.255.255.0", "192.168.0.1", "192.168.0.1",
+                           "192.168.0.2", "169.254.0.9", "192.168.0.1", "192.168.0.3", "", "00：0C：29：3A：5B：7C",
                            // maintenance
-                           "NEC", "PC-MY26XEZ7", "55274-640-1234567-23456", "", "6.0.2900.2180", "；SP2；", "0", "", "",
-                           "", "2005/04/01", "", "4800", "", "", "", "窓際", "Microsoft Windows XP Professional"}));
+                           "NEC", "PC-MY26XEZ7", "55274-640-1234567-23456", "", "6.0.2900.2180", "；SP2；", "0", "", "", "", "2005/04/01",
+                           "", "4800", "", "", "", "窓際", "Microsoft Windows XP Professional"}));
     EXPECT_EQ(w.lbr_dat[30]->text(), QStringLiteral("DHCPServer"));
     EXPECT_EQ(w.lbr_dat[47]->text(), QStringLiteral("リース開始日(例2005/12/05)"));
     // each box on its page
@@ -156,7 +155,7 @@ TEST_F(ProfileWindow, TheStepperWalksTheMainListWithinItsBoundsAndDropsUnsavedEd
     frm_Edit_Computer& w = open(1);
     w.tbx_Dat[53]->setText(QStringLiteral("未保存"));
 
-    w.cmd_Prev->click();   // at the first position: nothing
+    w.cmd_Prev->click(); // at the first position: nothing
     EXPECT_EQ(w.CurrentPosition, 1);
     EXPECT_EQ(w.tbx_Dat[53]->text(), QStringLiteral("未保存"));
 
@@ -172,7 +171,7 @@ TEST_F(ProfileWindow, TheStepperWalksTheMainListWithinItsBoundsAndDropsUnsavedEd
     EXPECT_EQ(w.cmb_Dat[3]->currentText(), QString());
     EXPECT_EQ(w.tbx_CmbKey[3]->text(), QStringLiteral("0"));
 
-    w.cmd_Next->click();   // at the last position: nothing
+    w.cmd_Next->click(); // at the last position: nothing
     EXPECT_EQ(w.CurrentPosition, 2);
     EXPECT_EQ(w.tbx_Dat[0]->text(), QStringLiteral("SALES-PC07"));
 
@@ -222,10 +221,10 @@ TEST_F(ProfileWindow, KeyFiltersAndFocusColoursFollowEachFieldsRule)
         const char* typed;
         const char* shown;
     } cases[] = {
-        {2, "19a2.168/", "192.168"},     // address: digits and dots
-        {7, "2.6GHz", "26"},             // clock: digits
-        {47, "2005-12x/01", "200512/01"},  // lease date: digits and slashes
-        {0, "PC-01/a.b", "PC-01/a.b"},   // computer name: anything
+        {2, "19a2.168/", "192.168"},      // address: digits and dots
+        {7, "2.6GHz", "26"},              // clock: digits
+        {47, "2005-12x/01", "200512/01"}, // lease date: digits and slashes
+        {0, "PC-01/a.b", "PC-01/a.b"},    // computer name: anything
     };
     for (const auto& c : cases) {
         QLineEdit* box = w.tbx_Dat[size_t(c.index)];
@@ -241,8 +240,8 @@ TEST_F(ProfileWindow, KeyFiltersAndFocusColoursFollowEachFieldsRule)
 
     // the focus colour, and the text kept for the date check
     const QColor cyan(128, 255, 255);
-    for (QWidget* control : {static_cast<QWidget*>(w.tbx_Dat[20]), static_cast<QWidget*>(w.tbx_Drive[3]),
-                             static_cast<QWidget*>(w.cmb_Dat[4])}) {
+    for (QWidget* control :
+         {static_cast<QWidget*>(w.tbx_Dat[20]), static_cast<QWidget*>(w.tbx_Drive[3]), static_cast<QWidget*>(w.cmb_Dat[4])}) {
         QFocusEvent in(QEvent::FocusIn);
         QApplication::sendEvent(control, &in);
         EXPECT_EQ(control->palette().color(QPalette::Base), cyan) << control->objectName().toStdString();
@@ -263,12 +262,12 @@ TEST_F(ProfileWindow, TheLeaseDateCheckPutsTheEarlierTextBackOnEachFailedTest)
         const char* after;
         const char* message;
     } cases[] = {
-        {47, "2005/04/01", "2005/13/01", "2005/04/01", "値が不正です"},   // month above 12
-        {47, "2005/04/01", "2005/00/10", "2005/04/01", "値が不正です"},   // month not above 0
-        {48, "", "2005/12/32", "0", "値が不正です"},                      // empty before: "0" comes back
-        {48, "", "2005/1/1", "0", "値が不正です"},                        // short: the day is no number
-        {48, "", "2005.12.01", "0", "値が不正です"},                      // pasted, unfiltered
-        {47, "2005/04/01", "2005/02/31", "2005/02/31", ""},              // the month's length is not checked
+        {47, "2005/04/01", "2005/13/01", "2005/04/01", "値が不正です"}, // month above 12
+        {47, "2005/04/01", "2005/00/10", "2005/04/01", "値が不正です"}, // month not above 0
+        {48, "", "2005/12/32", "0", "値が不正です"},                    // empty before: "0" comes back
+        {48, "", "2005/1/1", "0", "値が不正です"},                      // short: the day is no number
+        {48, "", "2005.12.01", "0", "値が不正です"},                    // pasted, unfiltered
+        {47, "2005/04/01", "2005/02/31", "2005/02/31", ""},             // the month's length is not checked
         {48, "", "2006/03/31", "2006/03/31", ""},
         {48, "2006/03/31", "", "", ""},
     };
@@ -331,10 +330,10 @@ TEST_F(ProfileWindow, MenusOpenTheMasterEditorsAndClose)
     for (QMenu* m : {w.Mnu_File, w.Mnu_Edit, w.Mnu_Managemants})
         for (QAction* a : m->actions())
             items << a->objectName() + u'=' + (a->isSeparator() ? QStringLiteral("-") : a->text());
-    EXPECT_EQ(items, (QStringList{"Mnu_ExportCSV=書き出し", "sepalator01=-", "Mnu_Pagelayout=ページ設定", "Mnu_Print=印刷",
-                                  "sepalator02=-", "Mnu_Close=閉じる", "Mnu_Update=更新", "Mnu_Edit_User=ユーザ",
-                                  "Mnu_Edit_Teble_1=部署", "Mnu_Edit_Teble_2=課", "Mnu_Edit_Teble_3=設置場所",
-                                  "Mnu_Edit_Teble_4=メーカー", "Mnu_Edit_Teble_5=モデル"}));
+    EXPECT_EQ(items,
+              (QStringList{"Mnu_ExportCSV=書き出し", "sepalator01=-", "Mnu_Pagelayout=ページ設定", "Mnu_Print=印刷", "sepalator02=-",
+                           "Mnu_Close=閉じる", "Mnu_Update=更新", "Mnu_Edit_User=ユーザ", "Mnu_Edit_Teble_1=部署", "Mnu_Edit_Teble_2=課",
+                           "Mnu_Edit_Teble_3=設置場所", "Mnu_Edit_Teble_4=メーカー", "Mnu_Edit_Teble_5=モデル"}));
 
     w.Mnu_Edit_Teble[4]->trigger();
     ASSERT_NE(frm_Edit_Table::IfLoaded(), nullptr);

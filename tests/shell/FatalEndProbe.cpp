@@ -25,7 +25,8 @@ int main(int argc, char** argv)
     ui::Dispatch([&] {
         Mdl_Access_mdb::ExecuteSql(QStringLiteral("INSERT INTO tbl_Section (Section_Code, Section_Name) VALUES (7, '総務部')"));
         if (args.value(2) == QLatin1String("vb"))
-            throw vb::VbError(3021, QStringLiteral("BOF と EOF のいずれかが True になっているか、または現在のレコードが削除されています。"));
+            throw vb::VbError(3021,
+                              QStringLiteral("BOF と EOF のいずれかが True になっているか、または現在のレコードが削除されています。"));
         throw std::runtime_error("bad state");
     });
     return 2;

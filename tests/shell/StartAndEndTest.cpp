@@ -30,8 +30,8 @@ TEST_F(Start, WithoutTheLedgerTheWindowStandsEmptyAndSaysWhy)
     folder.write(QStringLiteral("DB.ini"),
                  "[Main]\r\nSectionNumber=2\r\nSectionName1=\x8c\x6f\x97\x9d\r\nFormSizeWidth=9000\r\nFormSizeHight=6000\r\n");
     frm_Main& m = start(folder.path());
-    EXPECT_EQ(m.StatusBar1->PanelText(1), QStringLiteral("DBファイルが見つかりません。\r\nData Source=") + folder.path()
-                                              + QStringLiteral("/pcdb.mdbを確認ください"));
+    EXPECT_EQ(m.StatusBar1->PanelText(1),
+              QStringLiteral("DBファイルが見つかりません。\r\nData Source=") + folder.path() + QStringLiteral("/pcdb.mdbを確認ください"));
     EXPECT_TRUE(m.IsLoaded());
     EXPECT_TRUE(ended.empty());
     EXPECT_TRUE(dialogs.calls().empty());

@@ -11,15 +11,14 @@ class TempDir;
 
 // A program run as a process, the way scripts run it.
 struct ProcessRun {
-    int exitCode = -1;         // -1 when it crashed or did not finish
-    QStringList out;           // the lines of standard output, blank lines left out
+    int exitCode = -1; // -1 when it crashed or did not finish
+    QStringList out;   // the lines of standard output, blank lines left out
     QString err;
 };
 using AdminRun = ProcessRun;
 
 // inChild runs in the child between fork and exec (limits, signal dispositions).
-ProcessRun RunProcess(const QString& program, const QStringList& args, int timeoutMs = 60000,
-                      const std::function<void()>& inChild = {});
+ProcessRun RunProcess(const QString& program, const QStringList& args, int timeoutMs = 60000, const std::function<void()>& inChild = {});
 
 inline const QString kAdminProgram = QStringLiteral(FENWOLD_BINARY_DIR "/src/app/fenwold-admin");
 

@@ -16,9 +16,9 @@ class ScriptedDialogs : public ui::DialogProvider {
 public:
     struct Call {
         enum Kind { Message, Input, File, Printer } kind;
-        QString prompt;   // message or input prompt; the dialog title for a file dialog
+        QString prompt; // message or input prompt; the dialog title for a file dialog
         QString title;
-        int buttons = 0;  // message box style (buttons | icon)
+        int buttons = 0; // message box style (buttons | icon)
         ui::FileDialogRequest file;
         ui::PrinterDialogRequest printer;
     };

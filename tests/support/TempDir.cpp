@@ -33,10 +33,7 @@ QByteArray FileBytes(const QString& path)
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArrayLiteral("(no file)");
 }
 
-QString TestDataPath(const QString& relative)
-{
-    return QStringLiteral(FENWOLD_TEST_DATA_DIR "/") + relative;
-}
+QString TestDataPath(const QString& relative) { return QStringLiteral(FENWOLD_TEST_DATA_DIR "/") + relative; }
 
 QByteArray ReadTestData(const QString& relative)
 {

@@ -18,12 +18,12 @@ QString Title();
 
 // The date and time now (local time as UTC-tagged wall clock, like vb dates); fixable in tests.
 QDateTime Now();
-void SetNow(const QDateTime& fixed);   // an invalid QDateTime returns to the real clock
+void SetNow(const QDateTime& fixed); // an invalid QDateTime returns to the real clock
 
 // VB's End: the program stops here with the status. Without a hook the process exits at once
 // (each statement of the ledger is already committed, so nothing written is lost); tests set a
 // hook that records the status and returns, and the caller then leaves its routine.
 void End(int status);
-void SetEndHook(std::function<void(int)> hook);   // an empty hook returns to the real end
+void SetEndHook(std::function<void(int)> hook); // an empty hook returns to the real end
 
 } // namespace app

@@ -24,8 +24,7 @@ bool CommandLine::Parse(const QStringList& args)
             optionsEnded = true;
             continue;
         }
-        const auto known = std::find_if(m_options.begin(), m_options.end(),
-                                        [&](const Option& o) { return a == QLatin1String(o.name); });
+        const auto known = std::find_if(m_options.begin(), m_options.end(), [&](const Option& o) { return a == QLatin1String(o.name); });
         if (known == m_options.end()) {
             Usage(QStringLiteral("unknown option ") + a);
             return false;

@@ -13,14 +13,14 @@
 namespace app {
 
 // The exit statuses that every command shares.
-inline constexpr int ExitDone = 0;         // everything done
-inline constexpr int ExitFailed = 1;       // a usage error, or a failure that stopped the command
-inline constexpr int ExitSomeRefused = 2;  // some inputs refused (or faults found), the rest done
+inline constexpr int ExitDone = 0;        // everything done
+inline constexpr int ExitFailed = 1;      // a usage error, or a failure that stopped the command
+inline constexpr int ExitSomeRefused = 2; // some inputs refused (or faults found), the rest done
 
 class CommandLine {
 public:
     struct Option {
-        const char* name;  // "--ledger"
+        const char* name; // "--ledger"
         bool takesValue;
     };
 
@@ -31,10 +31,7 @@ public:
     bool Parse(const QStringList& args);
 
     bool Has(const char* option) const { return m_values.contains(QLatin1String(option)); }
-    QString Value(const char* option, const QString& fallback = {}) const
-    {
-        return m_values.value(QLatin1String(option), fallback);
-    }
+    QString Value(const char* option, const QString& fallback = {}) const { return m_values.value(QLatin1String(option), fallback); }
     const QStringList& Operands() const { return m_operands; }
     // The ledger the command works on: --ledger PATH, or pcdb.mdb beside the program.
     QString LedgerPath() const;

@@ -12,10 +12,10 @@ inline constexpr long adCmdUnspecified = -1;
 // Field types, as ADO numbered them. The ledger's declared column types map onto these.
 enum DataType {
     adEmpty = 0,
-    adSmallInt = 2,      // SMALLINT: keys and flags
-    adInteger = 3,       // INTEGER: long numbers
+    adSmallInt = 2, // SMALLINT: keys and flags
+    adInteger = 3,  // INTEGER: long numbers
     adDouble = 5,
-    adDate = 7,          // DATETIME
+    adDate = 7, // DATETIME
     adBoolean = 11,
     adVarWChar = 202,    // TEXT
     adLongVarWChar = 203 // LONGTEXT

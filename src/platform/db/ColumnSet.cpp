@@ -14,8 +14,8 @@ void ColumnSet::index()
 
     for (size_t i = 0; i < columns.size(); ++i) {
         ColumnInfo& c = columns[i];
-        const bool shared = !c.origin.isEmpty() && bareCount.value(c.origin.toCaseFolded()) > 1
-                            && c.name.compare(c.origin, Qt::CaseInsensitive) == 0;
+        const bool shared =
+            !c.origin.isEmpty() && bareCount.value(c.origin.toCaseFolded()) > 1 && c.name.compare(c.origin, Qt::CaseInsensitive) == 0;
         if (shared)
             c.name = c.table + QLatin1Char('.') + c.origin;
     }
@@ -36,10 +36,7 @@ void ColumnSet::index()
     }
 }
 
-int ColumnSet::indexOf(QStringView name) const
-{
-    return m_lookup.value(name.toString().toCaseFolded(), NotFound);
-}
+int ColumnSet::indexOf(QStringView name) const { return m_lookup.value(name.toString().toCaseFolded(), NotFound); }
 
 int ColumnSet::rowidSlotOf(const QString& table) const
 {

@@ -14,9 +14,9 @@ namespace db {
 // "tbl_Pclist.MainKey"), any other has its plain name and answers to "table.column" as well.
 // Names are found without regard to case, as Jet found them.
 struct ColumnInfo {
-    QString name;      // the field's name as ADO gave it
-    QString table;     // source table, empty for an expression
-    QString origin;    // source column, empty for an expression
+    QString name;   // the field's name as ADO gave it
+    QString table;  // source table, empty for an expression
+    QString origin; // source column, empty for an expression
     DataType type = adEmpty;
 };
 

@@ -133,10 +133,8 @@ bool losesTransaction(int extendedCode)
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
     case SQLITE_CANTOPEN:
-    case SQLITE_PROTOCOL:
-        return true;
-    default:
-        return false;
+    case SQLITE_PROTOCOL: return true;
+    default: return false;
     }
 }
 
@@ -319,7 +317,7 @@ void Connection::RollbackTrans()
         throw EngineError::NoTransaction();
     const LevelEnd end(*this);
     if (m_lost)
-        return;  // already rolled back
+        return; // already rolled back
     if (m_level == 1 && m_savepoints == 0) {
         run("ROLLBACK");
     } else {

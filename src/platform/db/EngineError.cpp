@@ -17,10 +17,7 @@ QString constraintName(const QString& msg)
     return colon < 0 ? msg : msg.mid(colon + 2);
 }
 
-QString tail(const QString& msg, QLatin1String prefix)
-{
-    return msg.startsWith(prefix) ? msg.mid(prefix.size()) : msg;
-}
+QString tail(const QString& msg, QLatin1String prefix) { return msg.startsWith(prefix) ? msg.mid(prefix.size()) : msg; }
 
 } // namespace
 
@@ -63,31 +60,20 @@ VbError FromSqlite(sqlite3* db, int rc, const QString& path)
                               .arg(tail(msg, QLatin1String("ambiguous column name: ")))};
         return {SyntaxError, QStringLiteral("SQL ステートメントの構文エラーです。(%1)").arg(msg)};
     }
-    case SQLITE_CONSTRAINT:
-        return {Fail, QStringLiteral("レコードを更新できませんでした。(%1)").arg(msg)};
+    case SQLITE_CONSTRAINT: return {Fail, QStringLiteral("レコードを更新できませんでした。(%1)").arg(msg)};
     case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return {Fail, QStringLiteral("ファイル '%1' は既に使用されています。").arg(path)};
-    case SQLITE_READONLY:
-        return {Fail, QStringLiteral("データベースまたはオブジェクトが読み取り専用であるため、更新できません。")};
-    case SQLITE_CANTOPEN:
-        return FileNotFound(path);
+    case SQLITE_LOCKED: return {Fail, QStringLiteral("ファイル '%1' は既に使用されています。").arg(path)};
+    case SQLITE_READONLY: return {Fail, QStringLiteral("データベースまたはオブジェクトが読み取り専用であるため、更新できません。")};
+    case SQLITE_CANTOPEN: return FileNotFound(path);
     case SQLITE_NOTADB:
-    case SQLITE_CORRUPT:
-        return UnrecognisedFormat(path);
-    case SQLITE_FULL:
-        return {Fail, QStringLiteral("ディスクに空き領域がありません。")};
-    case SQLITE_TOOBIG:
-        return ConversionFailed();
-    default:
-        return {Fail, QStringLiteral("データベース エンジンのエラーです。(%1)").arg(msg)};
+    case SQLITE_CORRUPT: return UnrecognisedFormat(path);
+    case SQLITE_FULL: return {Fail, QStringLiteral("ディスクに空き領域がありません。")};
+    case SQLITE_TOOBIG: return ConversionFailed();
+    default: return {Fail, QStringLiteral("データベース エンジンのエラーです。(%1)").arg(msg)};
     }
 }
 
-VbError ItemNotFound()
-{
-    return {3265, QStringLiteral("要求された名前、または序数に対応する項目がコレクションに見つかりません。")};
-}
+VbError ItemNotFound() { return {3265, QStringLiteral("要求された名前、または序数に対応する項目がコレクションに見つかりません。")}; }
 
 VbError NoCurrentRecord()
 {
@@ -122,9 +108,6 @@ VbError ConversionFailed()
 
 VbError FileNotFound(const QString& path) { return {Fail, QStringLiteral("ファイル '%1' が見つかりません。").arg(path)}; }
 
-VbError UnrecognisedFormat(const QString& path)
-{
-    return {Fail, QStringLiteral("認識できないデータベース形式 '%1' です。").arg(path)};
-}
+VbError UnrecognisedFormat(const QString& path) { return {Fail, QStringLiteral("認識できないデータベース形式 '%1' です。").arg(path)}; }
 
 } // namespace db::EngineError

@@ -13,7 +13,7 @@ enum class Tok { Space, Ident, Quoted, Str, Num, Date, Punct };
 
 struct Token {
     Tok type;
-    QStringView text;   // as written; for Quoted, Str and Date the inner text
+    QStringView text; // as written; for Quoted, Str and Date the inner text
 };
 
 bool isIdentStart(QChar c) { return c.isLetter() || c == QLatin1Char('_') || c.unicode() >= 0x80; }
@@ -31,8 +31,8 @@ void tokenize(QStringView s, std::vector<Token>& out)
         const QChar c = s[i];
         const qsizetype start = i;
         if (c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QLatin1Char('\r') || c == QLatin1Char('\n')) {
-            while (i < n && (s[i] == QLatin1Char(' ') || s[i] == QLatin1Char('\t') || s[i] == QLatin1Char('\r')
-                             || s[i] == QLatin1Char('\n')))
+            while (i < n
+                   && (s[i] == QLatin1Char(' ') || s[i] == QLatin1Char('\t') || s[i] == QLatin1Char('\r') || s[i] == QLatin1Char('\n')))
                 ++i;
             out.push_back({Tok::Space, s.mid(start, i - start)});
         } else if (c == QLatin1Char('\'') || c == QLatin1Char('"')) {
@@ -94,8 +94,7 @@ void tokenize(QStringView s, std::vector<Token>& out)
             if (i + 1 < n) {
                 // <> <= >= || !=
                 const char16_t a = c.unicode(), b = s[i + 1].unicode();
-                if ((a == '<' && (b == '>' || b == '=')) || (a == '>' && b == '=') || (a == '|' && b == '|')
-                    || (a == '!' && b == '=')) {
+                if ((a == '<' && (b == '>' || b == '=')) || (a == '>' && b == '=') || (a == '|' && b == '|') || (a == '!' && b == '=')) {
                     out.push_back({Tok::Punct, s.mid(i, 2)});
                     i += 2;
                     continue;
@@ -109,8 +108,7 @@ void tokenize(QStringView s, std::vector<Token>& out)
 
 // An identifier that is the given keyword, written in any case. The words are ASCII: a plain
 // ASCII identifier is compared byte by byte, anything else the way Qt folds case.
-template <size_t N>
-inline bool is(const Token& t, const char (&word)[N])
+template <size_t N> inline bool is(const Token& t, const char (&word)[N])
 {
     constexpr qsizetype n = qsizetype(N - 1);
     if (t.type != Tok::Ident || t.text.size() != n)
@@ -192,11 +190,9 @@ QString dateLiteralValue(QStringView body)
     if (p.size() == 3) {
         // yyyy-mm-dd stays as it is; m/d/yyyy is turned around
         if (p[0].size() == 4)
-            out = QStringLiteral("%1/%2/%3").arg(p[0], p[1].rightJustified(2, QLatin1Char('0')),
-                                                 p[2].rightJustified(2, QLatin1Char('0')));
+            out = QStringLiteral("%1/%2/%3").arg(p[0], p[1].rightJustified(2, QLatin1Char('0')), p[2].rightJustified(2, QLatin1Char('0')));
         else
-            out = QStringLiteral("%1/%2/%3").arg(p[2], p[0].rightJustified(2, QLatin1Char('0')),
-                                                 p[1].rightJustified(2, QLatin1Char('0')));
+            out = QStringLiteral("%1/%2/%3").arg(p[2], p[0].rightJustified(2, QLatin1Char('0')), p[1].rightJustified(2, QLatin1Char('0')));
     } else {
         out = datePart;
     }
@@ -298,8 +294,8 @@ JetStatement parse(QStringView jet, bool withSql)
         st.params.reserve(8);
 
     int depth = 0;
-    bool inSet = false;          // inside the SET list of an UPDATE, at depth 0
-    bool expectTarget = false;   // the next name is an assignment target
+    bool inSet = false;        // inside the SET list of an UPDATE, at depth 0
+    bool expectTarget = false; // the next name is an assignment target
     bool liftLiterals = !isSelect && st.kind != JetStatement::Kind::Other;
     bool afterOrderOrGroup = false;
 
@@ -338,9 +334,7 @@ JetStatement parse(QStringView jet, bool withSql)
     for (size_t i = 0; i < toks.size(); ++i) {
         const Token& t = toks[i];
         switch (t.type) {
-        case Tok::Space:
-            emitBoth(t.text);
-            break;
+        case Tok::Space: emitBoth(t.text); break;
         case Tok::Punct:
             if (isPunct(t, '('))
                 ++depth;

@@ -17,12 +17,12 @@ struct JetStatement {
     enum class Kind { Select, Insert, Update, Delete, Other };
 
     Kind kind = Kind::Other;
-    QString sql;                    // SQLite text with the literals in place
-    QString shape;                  // SQLite text with parameters for the lifted literals
-    std::vector<Literal> params;    // the lifted literals, in order
-    bool distinct = false;          // SELECT DISTINCT
-    bool grouped = false;           // has GROUP BY
-    qsizetype selectListAt = -1;    // offset in shape where the select list starts
+    QString sql;                 // SQLite text with the literals in place
+    QString shape;               // SQLite text with parameters for the lifted literals
+    std::vector<Literal> params; // the lifted literals, in order
+    bool distinct = false;       // SELECT DISTINCT
+    bool grouped = false;        // has GROUP BY
+    qsizetype selectListAt = -1; // offset in shape where the select list starts
 };
 
 // Rewrites Jet SQL, as the system writes its statements, into SQLite SQL with the same meaning.

@@ -60,7 +60,7 @@ public:
 private:
     static constexpr size_t kLimit = 512;
     std::unordered_map<std::string_view, Variant> m_seen;
-    std::deque<std::string> m_keys;   // owns the bytes the keys view
+    std::deque<std::string> m_keys; // owns the bytes the keys view
     bool m_full = false;
 };
 
@@ -147,7 +147,7 @@ public:
             else if (v.IsDate())
                 capacity += 64;
         }
-        m_bytes.resize(capacity + 1);   // never empty: an empty text must not bind as Null
+        m_bytes.resize(capacity + 1); // never empty: an empty text must not bind as Null
     }
     QByteArrayView add(QStringView text)
     {
@@ -481,9 +481,8 @@ void Recordset::Update()
                 marks += QLatin1Char('?');
                 m_insertFields.push_back(col);
             }
-            m_insertSql = names.isEmpty()
-                              ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(QuoteName(table))
-                              : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(QuoteName(table), names, marks);
+            m_insertSql = names.isEmpty() ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(QuoteName(table))
+                                          : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(QuoteName(table), names, marks);
         }
         Statement s = m_conn->prepareSql(m_insertSql);
         int at = 1;
@@ -499,7 +498,7 @@ void Recordset::Update()
         for (int r = 0; r < cs.rowidCount; ++r)
             m_rowids.push_back(r == slot ? rowid : 0);
         m_deleted.push_back(0);
-        m_stale.push_back(1);  // defaults and stored forms are read back when first asked
+        m_stale.push_back(1); // defaults and stored forms are read back when first asked
         m_pos = m_rows++;
     } else {
         // one UPDATE per table of the row, together or not at all
@@ -518,8 +517,7 @@ void Recordset::Update()
                     sets += QLatin1String(", ");
                 sets += QuoteName(column(col).origin) + QLatin1String(" = ?");
             }
-            const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?")
-                                    .arg(QuoteName(cs.rowidTables[size_t(slot)]), sets);
+            const QString sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?").arg(QuoteName(cs.rowidTables[size_t(slot)]), sets);
             Statement s = m_conn->prepareSql(sql);
             int at = 1;
             for (int col : cols)
@@ -576,7 +574,8 @@ void Recordset::refreshRow(long row)
         }
         if (cols.empty())
             continue;
-        Statement s = m_conn->prepareSql(QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(names, QuoteName(cs.rowidTables[size_t(slot)])));
+        Statement s =
+            m_conn->prepareSql(QStringLiteral("SELECT %1 FROM %2 WHERE rowid = ?").arg(names, QuoteName(cs.rowidTables[size_t(slot)])));
         sqlite3_bind_int64(s.handle(), 1, rowid);
         if (sqlite3_step(s.handle()) == SQLITE_ROW) {
             for (size_t k = 0; k < cols.size(); ++k)

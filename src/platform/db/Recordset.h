@@ -28,16 +28,16 @@ public:
     Recordset(const Recordset&) = delete;
     Recordset& operator=(const Recordset&) = delete;
 
-    void Open(const QString& source, Connection& connection, CursorType cursor = adOpenStatic,
-              LockType lock = adLockReadOnly, long options = adCmdUnspecified);
+    void Open(const QString& source, Connection& connection, CursorType cursor = adOpenStatic, LockType lock = adLockReadOnly,
+              long options = adCmdUnspecified);
     void Close();
     // Closes when open; the cleanup step of every error handler.
     void CloseIfOpen();
     ObjectState State() const { return m_open ? adStateOpen : adStateClosed; }
 
     long RecordCount() const;
-    bool Eof() const;   // ADO's EOF (the C library owns that name)
-    bool Bof() const;   // ADO's BOF
+    bool Eof() const; // ADO's EOF (the C library owns that name)
+    bool Bof() const; // ADO's BOF
     void MoveFirst();
     void MoveLast();
     void MoveNext();
@@ -73,17 +73,17 @@ private:
     Connection* m_conn = nullptr;
     std::shared_ptr<const ColumnSet> m_columns;
     int m_cols = 0;
-    std::vector<vb::Variant> m_cells;        // rows * m_cols
-    std::vector<long long> m_rowids;         // rows * rowidCount
-    std::vector<char> m_deleted;             // per row
-    std::vector<char> m_stale;               // per row: added, re-read on first access
+    std::vector<vb::Variant> m_cells; // rows * m_cols
+    std::vector<long long> m_rowids;  // rows * rowidCount
+    std::vector<char> m_deleted;      // per row
+    std::vector<char> m_stale;        // per row: added, re-read on first access
     long m_rows = 0;
-    long m_pos = 0;                          // -1 BOF, m_rows EOF
+    long m_pos = 0; // -1 BOF, m_rows EOF
     bool m_open = false;
     bool m_updatable = false;
     LockType m_lock = adLockReadOnly;
     EditMode m_edit = adEditNone;
-    std::map<int, vb::Variant> m_pending;    // assigned, not yet written
+    std::map<int, vb::Variant> m_pending; // assigned, not yet written
     // the INSERT of the last AddNew and the fields it named: a run of added rows that assign the
     // same fields builds its text once
     QString m_insertSql;

@@ -18,8 +18,7 @@ void StatementCache::clear()
     m_byStmt.clear();
 }
 
-std::shared_ptr<const ColumnSet> StatementCache::describe(sqlite3_stmt* stmt, int rowidCount,
-                                                          const std::vector<QString>& rowidTables) const
+std::shared_ptr<const ColumnSet> StatementCache::describe(sqlite3_stmt* stmt, int rowidCount, const std::vector<QString>& rowidTables) const
 {
     auto set = std::make_shared<ColumnSet>();
     set->rowidCount = rowidCount;
@@ -65,11 +64,11 @@ Statement StatementCache::acquire(const QString& sql, int rowidCount, const std:
         sqlite3_finalize(stmt);
         throw e;
     }
-    if (!stmt)  // only blanks or a lone ";"
+    if (!stmt) // only blanks or a lone ";"
         throw EngineError::FromSqlite(m_db, SQLITE_ERROR);
     auto columns = describe(stmt, rowidCount, rowidTables);
 
-    if (it != m_bySql.end())  // the cached one is in use: this run gets its own
+    if (it != m_bySql.end()) // the cached one is in use: this run gets its own
         return Statement(this, stmt, std::move(columns), false);
 
     if (int(m_lru.size()) >= m_capacity) {

@@ -42,7 +42,7 @@ private:
 
     sqlite3* m_db;
     int m_capacity;
-    std::list<Entry> m_lru;   // front: most recently used
+    std::list<Entry> m_lru; // front: most recently used
     QHash<QString, std::list<Entry>::iterator> m_bySql;
     QHash<sqlite3_stmt*, std::list<Entry>::iterator> m_byStmt;
 };

@@ -21,9 +21,9 @@ struct Line {
     qsizetype next = 0;
     Kind kind = Other;
     bool blank = false;
-    QString name;           // of the section or the key, without the blanks around it
-    bool hasValue = false;  // a key line without '=' names a key that has no value
-    QString value;          // without the blanks around it; quotes are still on
+    QString name;          // of the section or the key, without the blanks around it
+    bool hasValue = false; // a key line without '=' names a key that has no value
+    QString value;         // without the blanks around it; quotes are still on
 
     bool hasLineEnd() const { return next > end; }
 };
@@ -48,10 +48,7 @@ QStringView TrimBlanks(QStringView s)
 
 // Names are compared as Windows compared them: blanks around them do not count, nor does case.
 // Kana and kanji have no case and so compare as they are.
-bool SameName(QStringView fileName, const QString& wanted)
-{
-    return fileName.compare(TrimBlanks(wanted), Qt::CaseInsensitive) == 0;
-}
+bool SameName(QStringView fileName, const QString& wanted) { return fileName.compare(TrimBlanks(wanted), Qt::CaseInsensitive) == 0; }
 
 void Classify(Line& line, QStringView text)
 {
@@ -156,10 +153,7 @@ bool ReadFile(const QString& path, QByteArray& bytes)
 
 // The counterpart of Windows' read-only attribute: a file that no one may write. Read from the
 // mode bits because root writes through them, where Windows refused the administrator too.
-bool IsReadOnly(const QFileInfo& info)
-{
-    return !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
-}
+bool IsReadOnly(const QFileInfo& info) { return !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther)); }
 
 bool IsLeadByte(unsigned char c) { return (c >= 0x81 && c <= 0x9F) || (c >= 0xE0 && c <= 0xFC); }
 
@@ -185,21 +179,14 @@ QString CutToBytes(const QString& s, int maxBytes)
 
 QString Unquoted(const QString& value)
 {
-    if (value.size() >= 2 && (value.front() == u'"' || value.front() == u'\'')
-        && value.back() == value.front())
+    if (value.size() >= 2 && (value.front() == u'"' || value.front() == u'\'') && value.back() == value.front())
         return value.sliced(1, value.size() - 2);
     return value;
 }
 
-QByteArray KeyLine(const QString& key, const QString& value)
-{
-    return text::ToCp932(QString(key % u'=' % value)) + "\r\n";
-}
+QByteArray KeyLine(const QString& key, const QString& value) { return text::ToCp932(QString(key % u'=' % value)) + "\r\n"; }
 
-QByteArray Slice(const Profile& p, qsizetype from, qsizetype to)
-{
-    return p.bytes.sliced(from, to - from);
-}
+QByteArray Slice(const Profile& p, qsizetype from, qsizetype to) { return p.bytes.sliced(from, to - from); }
 
 QByteArray EraseSection(const Profile& p, const QString& section)
 {
@@ -219,8 +206,7 @@ QByteArray EraseKey(const Profile& p, const QString& section, const QString& key
     return Slice(p, 0, p.lines[k].begin) + Slice(p, p.lines[k].next, p.bytes.size());
 }
 
-QByteArray SetKey(const Profile& p, const QString& section, const QString& key,
-                  const QString& value)
+QByteArray SetKey(const Profile& p, const QString& section, const QString& key, const QString& value)
 {
     const QByteArray line = KeyLine(key, value);
     const SectionSpan span = FindSection(p, section);
@@ -241,14 +227,12 @@ QByteArray SetKey(const Profile& p, const QString& section, const QString& key,
     while (p.lines[last].blank)
         --last;
     const Line& after = p.lines[last];
-    return Slice(p, 0, after.next) + (after.hasLineEnd() ? QByteArray() : QByteArray("\r\n"))
-        + line + Slice(p, after.next, p.bytes.size());
+    return Slice(p, 0, after.next) + (after.hasLineEnd() ? QByteArray() : QByteArray("\r\n")) + line + Slice(p, after.next, p.bytes.size());
 }
 
 } // namespace
 
-QString GetPrivateProfileString(const QString& section, const QString& key, const QString& def,
-                                int bufferSize, const QString& path)
+QString GetPrivateProfileString(const QString& section, const QString& key, const QString& def, int bufferSize, const QString& path)
 {
     QByteArray bytes;
     ReadFile(path, bytes); // a file that cannot be read is an empty one
@@ -263,17 +247,15 @@ QString GetPrivateProfileString(const QString& section, const QString& key, cons
     return CutToBytes(def.first(n), bufferSize - 1);
 }
 
-bool WritePrivateProfileString(const QString& section, const std::optional<QString>& key,
-                               const std::optional<QString>& value, const QString& path)
+bool WritePrivateProfileString(const QString& section, const std::optional<QString>& key, const std::optional<QString>& value,
+                               const QString& path)
 {
     const QFileInfo info(path);
     QByteArray before;
     if (info.exists() && !ReadFile(path, before))
         return false;
     const Profile p = Parse(before);
-    const QByteArray after = !key          ? EraseSection(p, section)
-                           : !value        ? EraseKey(p, section, *key)
-                                           : SetKey(p, section, *key, *value);
+    const QByteArray after = !key ? EraseSection(p, section) : !value ? EraseKey(p, section, *key) : SetKey(p, section, *key, *value);
     // Nothing to erase, or the same value again: the file is not touched (nor made).
     if (after == before)
         return true;

@@ -16,12 +16,11 @@
 namespace ini {
 
 // The value of key in section, or def when absent; cut to bufferSize - 1 CP932 bytes.
-QString GetPrivateProfileString(const QString& section, const QString& key, const QString& def,
-                                int bufferSize, const QString& path);
+QString GetPrivateProfileString(const QString& section, const QString& key, const QString& def, int bufferSize, const QString& path);
 
 // key == nullopt erases the section; value == nullopt erases the key. Returns false when the file
 // could not be written.
-bool WritePrivateProfileString(const QString& section, const std::optional<QString>& key,
-                               const std::optional<QString>& value, const QString& path);
+bool WritePrivateProfileString(const QString& section, const std::optional<QString>& key, const std::optional<QString>& value,
+                               const QString& path);
 
 } // namespace ini

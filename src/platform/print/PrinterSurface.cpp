@@ -14,10 +14,7 @@ vb::VbError printerError() { return {482, QStringLiteral("プリンタ エラー
 
 } // namespace
 
-PrinterSurface::PrinterSurface(QPrinter& printer, bool sheetsInOneDocument)
-    : m_printer(printer), m_oneDocument(sheetsInOneDocument)
-{
-}
+PrinterSurface::PrinterSurface(QPrinter& printer, bool sheetsInOneDocument) : m_printer(printer), m_oneDocument(sheetsInOneDocument) {}
 
 PrinterSurface::~PrinterSurface()
 {

@@ -19,21 +19,18 @@ constexpr qsizetype kFlushSize = 64 * 1024;
 // refused the administrator too.
 bool IsReadOnly(const QFileInfo& info)
 {
-    return info.exists() && info.isFile()
-        && !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+    return info.exists() && info.isFile() && !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
 }
 
 } // namespace
 
-AnsiFile::AnsiFile(const QString& path)
-    : m_file(path)
+AnsiFile::AnsiFile(const QString& path) : m_file(path)
 {
     const QFileInfo info(path);
     if (!info.absoluteDir().exists())
         throw vb::VbError::PathNotFound();
     // Our own buffer collects the encoded text, so QFile's would only copy it once more.
-    if (IsReadOnly(info)
-        || !m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
+    if (IsReadOnly(info) || !m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
         throw vb::VbError::PathFileAccessError();
     m_buffer.reserve(kFlushSize);
 }

@@ -13,15 +13,13 @@ namespace {
 
 // QString's own storage is UTF-16 in the machine's byte order, so iconv writes into it and reads
 // from it directly.
-constexpr const char* kUtf16 =
-    QSysInfo::ByteOrder == QSysInfo::LittleEndian ? "UTF-16LE" : "UTF-16BE";
+constexpr const char* kUtf16 = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? "UTF-16LE" : "UTF-16BE";
 
 // One conversion descriptor per direction and thread: iconv_open loads a gconv module and costs
 // far more than converting a whole inventory file, and a descriptor must not be shared by threads.
 class Converter {
 public:
-    Converter(const char* to, const char* from)
-        : m_cd(iconv_open(to, from))
+    Converter(const char* to, const char* from) : m_cd(iconv_open(to, from))
     {
         if (m_cd == reinterpret_cast<iconv_t>(-1))
             qFatal("iconv cannot convert %s to %s: glibc's gconv modules are missing", from, to);
@@ -129,8 +127,7 @@ QByteArray ToCp932(QStringView s)
         // pair is one character and gives one '?'.
         const auto* unit = reinterpret_cast<const char16_t*>(in);
         size_t skip = sizeof(char16_t);
-        if (QChar::isHighSurrogate(unit[0]) && inLeft >= 2 * sizeof(char16_t)
-            && QChar::isLowSurrogate(unit[1]))
+        if (QChar::isHighSurrogate(unit[0]) && inLeft >= 2 * sizeof(char16_t) && QChar::isLowSurrogate(unit[1]))
             skip *= 2;
         *o++ = '?';
         --outLeft;

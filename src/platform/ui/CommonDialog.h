@@ -25,10 +25,10 @@ class CommonDialog {
 public:
     bool CancelError = false;
     QString DialogTitle;
-    QString Filter;        // "description|pattern|description|pattern"
-    int FilterIndex = 1;   // 1-based
-    QString FileName;      // the full path after a confirmed ShowOpen or ShowSave
-    QString FileTitle;     // the name part of FileName
+    QString Filter;      // "description|pattern|description|pattern"
+    int FilterIndex = 1; // 1-based
+    QString FileName;    // the full path after a confirmed ShowOpen or ShowSave
+    QString FileTitle;   // the name part of FileName
     QString DefaultExt;
     QString InitDir;
     long Flags = 0;

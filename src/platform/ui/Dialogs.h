@@ -38,10 +38,10 @@ inline const QString vbCrLf = QStringLiteral("\r\n");
 struct FileDialogRequest {
     enum Kind { Open, Save };
     Kind kind = Open;
-    QString title;        // DialogTitle
-    QString filter;       // "description|pattern|description|pattern"
-    int filterIndex = 1;  // 1-based
-    QString fileName;     // FileName as set before showing
+    QString title;       // DialogTitle
+    QString filter;      // "description|pattern|description|pattern"
+    int filterIndex = 1; // 1-based
+    QString fileName;    // FileName as set before showing
     QString defaultExt;
     QString initDir;
     long flags = 0;
@@ -53,7 +53,7 @@ struct PrinterDialogRequest {
     enum Kind { Print, PrintSetup };
     Kind kind = Print;
     long flags = 0;
-    QPrinter* printer = nullptr;   // not owned; null for the run's own default printer
+    QPrinter* printer = nullptr; // not owned; null for the run's own default printer
 };
 
 class DialogProvider {

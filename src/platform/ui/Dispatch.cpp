@@ -10,8 +10,7 @@ namespace ui {
 
 QString FatalErrorText(const vb::VbError& e)
 {
-    return QStringLiteral("実行時エラー '") + QString::number(e.Number()) + QStringLiteral("':") + vbCrLf + vbCrLf
-           + e.Description();
+    return QStringLiteral("実行時エラー '") + QString::number(e.Number()) + QStringLiteral("':") + vbCrLf + vbCrLf + e.Description();
 }
 
 namespace {

@@ -9,8 +9,7 @@
 
 namespace ui {
 
-FixedSize::FixedSize(Form& form, int widthTwips, int heightTwips)
-    : QObject(&form), m_form(form), m_width(widthTwips), m_height(heightTwips)
+FixedSize::FixedSize(Form& form, int widthTwips, int heightTwips) : QObject(&form), m_form(form), m_width(widthTwips), m_height(heightTwips)
 {
 }
 

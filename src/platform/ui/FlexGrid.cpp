@@ -113,14 +113,8 @@ public:
     int headRows() const { return m_g->m_fixedRows > 0 && m_g->m_rows > 0 ? 1 : 0; }
     int headCols() const { return m_g->m_fixedCols > 0 && m_g->m_cols > 0 ? 1 : 0; }
 
-    int rowCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : qMax(0, m_g->m_rows - headRows());
-    }
-    int columnCount(const QModelIndex& parent = {}) const override
-    {
-        return parent.isValid() ? 0 : qMax(0, m_g->m_cols - headCols());
-    }
+    int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : qMax(0, m_g->m_rows - headRows()); }
+    int columnCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : qMax(0, m_g->m_cols - headCols()); }
 
     QVariant cellData(int r, int c, int role) const
     {
@@ -140,10 +134,7 @@ public:
         }
     }
 
-    QVariant data(const QModelIndex& i, int role) const override
-    {
-        return cellData(i.row() + headRows(), i.column() + headCols(), role);
-    }
+    QVariant data(const QModelIndex& i, int role) const override { return cellData(i.row() + headRows(), i.column() + headCols(), role); }
 
     QVariant headerData(int section, Qt::Orientation o, int role) const override
     {
@@ -252,7 +243,10 @@ void FlexGrid::structureChanged()
         return;
     m_dirtyStructure = true;
     if (!deferred())
-        QTimer::singleShot(0, this, [this] { if (!deferred()) flush(); });
+        QTimer::singleShot(0, this, [this] {
+            if (!deferred())
+                flush();
+        });
 }
 
 void FlexGrid::changed(int row, int col)

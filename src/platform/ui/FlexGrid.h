@@ -131,7 +131,7 @@ private:
     FlexGridModel* m_model;
     QWidget* m_corner = nullptr;
     std::vector<Cell> m_cells;
-    std::vector<int> m_widths;   // twips, -1 for the default
+    std::vector<int> m_widths; // twips, -1 for the default
     int m_rows = 0;
     int m_cols = 0;
     int m_fixedRows = 1;
@@ -145,6 +145,5 @@ private:
     int m_paints = 0;
     bool m_pressed = false;
 };
-
 
 } // namespace ui

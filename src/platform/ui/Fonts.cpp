@@ -10,11 +10,8 @@ void InstallFontSubstitutes()
         const char* family;
         const char* substitute;
     } table[] = {
-        {"ＭＳ ゴシック", "IPAGothic"},
-        {"MS Gothic", "IPAGothic"},
-        {"ＭＳ Ｐゴシック", "IPAPGothic"},
-        {"MS PGothic", "IPAPGothic"},
-        {"MS UI Gothic", "IPAPGothic"},
+        {"ＭＳ ゴシック", "IPAGothic"}, {"MS Gothic", "IPAGothic"},     {"ＭＳ Ｐゴシック", "IPAPGothic"},
+        {"MS PGothic", "IPAPGothic"},   {"MS UI Gothic", "IPAPGothic"},
     };
     for (const auto& row : table) {
         const QString family = QString::fromUtf8(row.family);

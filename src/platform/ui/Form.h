@@ -94,8 +94,7 @@ private:
 // loads it on first use, from any window; an unload ends it, and the next use creates a fresh one.
 // A Form_Load that fails leaves no instance behind. Declared as
 //     class frm_X : public ui::SingleForm<frm_X> { Q_OBJECT ... };
-template <typename T>
-class SingleForm : public Form {
+template <typename T> class SingleForm : public Form {
 public:
     using Form::Form;
 

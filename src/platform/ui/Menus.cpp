@@ -23,8 +23,7 @@ QMenu* AddMenu(QMenuBar* bar, const char* name, const QString& caption)
     return menu;
 }
 
-QAction* AddMenuItem(QMenu* menu, const char* name, const QString& caption, std::function<void()> click,
-                     const QKeySequence& shortcut)
+QAction* AddMenuItem(QMenu* menu, const char* name, const QString& caption, std::function<void()> click, const QKeySequence& shortcut)
 {
     QAction* item = menu->addAction(caption);
     item->setObjectName(QString::fromUtf8(name));

@@ -134,9 +134,9 @@ bool QtDialogs::PrinterDialog(const PrinterDialogRequest& r)
     }
     QPrintDialog dlg(printer, parentWindow());
     QAbstractPrintDialog::PrintDialogOptions options = dlg.options();
-    if (r.flags & 0x4)        // cdlPDNoSelection
+    if (r.flags & 0x4) // cdlPDNoSelection
         options &= ~QAbstractPrintDialog::PrintSelection;
-    if (r.flags & 0x100000)   // cdlPDHidePrintToFile
+    if (r.flags & 0x100000) // cdlPDHidePrintToFile
         options &= ~QAbstractPrintDialog::PrintToFile;
     dlg.setOptions(options);
     return dlg.exec() == QDialog::Accepted;

@@ -2,7 +2,6 @@
 
 #include "platform/vb/VbError.h"
 
-
 #include <cmath>
 #include <limits>
 
@@ -112,12 +111,11 @@ std::optional<double> parseNumberText(QStringView text)
             buf.append(char(c.unicode()));
             digits = true;
         } else if (c == QLatin1Char(',') && digits && !point) {
-            continue;  // thousands separator
+            continue; // thousands separator
         } else if (c == QLatin1Char('.') && !point) {
             buf.append('.');
             point = true;
-        } else if ((c == QLatin1Char('E') || c == QLatin1Char('e') || c == QLatin1Char('D') || c == QLatin1Char('d'))
-                   && digits) {
+        } else if ((c == QLatin1Char('E') || c == QLatin1Char('e') || c == QLatin1Char('D') || c == QLatin1Char('d')) && digits) {
             buf.append('e');
             if (i + 1 < n && (s[i + 1] == QLatin1Char('+') || s[i + 1] == QLatin1Char('-')))
                 buf.append(char(s[++i].unicode()));
@@ -292,26 +290,26 @@ std::optional<QDate> parseDatePart(QStringView s)
         return std::nullopt;
     const qsizetype yearDigits = i;
     const QChar sep = s[i];
-    const bool kanji = sep == QChar(0x5E74);  // 年
+    const bool kanji = sep == QChar(0x5E74); // 年
     if (!kanji && sep != QLatin1Char('/') && sep != QLatin1Char('-') && sep != QLatin1Char('.'))
         return std::nullopt;
     ++i;
     const int m = readInt(s, i, 2);
     if (m < 0 || i >= s.size())
         return std::nullopt;
-    if (kanji ? s[i] != QChar(0x6708) : s[i] != sep)  // 月
+    if (kanji ? s[i] != QChar(0x6708) : s[i] != sep) // 月
         return std::nullopt;
     ++i;
     const int d = readInt(s, i, 2);
     if (d < 0)
         return std::nullopt;
-    if (kanji && i < s.size() && s[i] == QChar(0x65E5))  // 日
+    if (kanji && i < s.size() && s[i] == QChar(0x65E5)) // 日
         ++i;
     if (i != s.size())
         return std::nullopt;
     int year = y;
     if (yearDigits <= 2)
-        year += y < 30 ? 2000 : 1900;  // the system's two-digit year window
+        year += y < 30 ? 2000 : 1900; // the system's two-digit year window
     QDate date(year, m, d);
     if (!date.isValid())
         return std::nullopt;
@@ -324,10 +322,7 @@ double RoundToEven(double d) { return std::nearbyint(d); }
 
 std::optional<double> ParseNumber(const QString& s) { return parseNumberText(s); }
 
-QDateTime MakeDate(int y, int m, int d, int h, int n, int s)
-{
-    return QDateTime(QDate(y, m, d), QTime(h, n, s), Qt::UTC);
-}
+QDateTime MakeDate(int y, int m, int d, int h, int n, int s) { return QDateTime(QDate(y, m, d), QTime(h, n, s), Qt::UTC); }
 
 std::optional<QDateTime> ParseDate(const QString& text)
 {

@@ -9,8 +9,7 @@ namespace vb {
 
 // A VB array declared "(0 To N-1)": an index outside the bounds raises error 9, as VB's bound
 // check did. Several of the system's limits rest on it (the 2560 rows of the main list).
-template <typename T, std::size_t N>
-class FixedArray {
+template <typename T, std::size_t N> class FixedArray {
 public:
     T& operator[](long i)
     {
@@ -35,8 +34,7 @@ private:
 };
 
 // On Error Resume Next over one statement: runs it and drops a run-time error.
-template <typename F>
-void ResumeNext(F&& statement)
+template <typename F> void ResumeNext(F&& statement)
 {
     try {
         statement();

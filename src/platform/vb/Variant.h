@@ -23,18 +23,23 @@ public:
     Variant(const char* utf8) : m_v(QString::fromUtf8(utf8)) {}
     Variant(bool b) : m_v(b) {}
     Variant(double d) : m_v(d) {}
-    Variant(int l) : m_v(std::int32_t(l)) {}          // a plain int is a Long
+    Variant(int l) : m_v(std::int32_t(l)) {} // a plain int is a Long
     Variant(std::int16_t i) : m_v(i) {}
     Variant(const QDateTime& d) : m_v(d) {}
 
-    static Variant Null() { Variant v; v.m_v = NullTag{}; return v; }
+    static Variant Null()
+    {
+        Variant v;
+        v.m_v = NullTag{};
+        return v;
+    }
     static Variant Integer(std::int16_t i) { return Variant(i); }
     static Variant Long(std::int32_t l) { return Variant(int(l)); }
 
     VarType Type() const;
     bool IsEmpty() const { return m_v.index() == 0; }
     bool IsNull() const { return m_v.index() == 1; }
-    bool IsNumeric() const;   // Integer, Long, Double, Boolean
+    bool IsNumeric() const; // Integer, Long, Double, Boolean
     bool IsString() const { return std::holds_alternative<QString>(m_v); }
     bool IsDate() const { return std::holds_alternative<QDateTime>(m_v); }
 

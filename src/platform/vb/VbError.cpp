@@ -3,13 +3,14 @@
 namespace vb {
 
 VbError::VbError(long number, QString description)
-    : m_number(number)
-    , m_description(std::move(description))
-    , m_what(QByteArray::number(qint64(number)) + ": " + m_description.toUtf8())
+    : m_number(number), m_description(std::move(description)), m_what(QByteArray::number(qint64(number)) + ": " + m_description.toUtf8())
 {
 }
 
-VbError VbError::InvalidProcedureCall() { return {Err::InvalidProcedureCall, QStringLiteral("プロシージャの呼び出し、または引数が不正です。")}; }
+VbError VbError::InvalidProcedureCall()
+{
+    return {Err::InvalidProcedureCall, QStringLiteral("プロシージャの呼び出し、または引数が不正です。")};
+}
 VbError VbError::Overflow() { return {Err::Overflow, QStringLiteral("オーバーフローしました。")}; }
 VbError VbError::OutOfMemory() { return {Err::OutOfMemory, QStringLiteral("メモリが不足しています。")}; }
 VbError VbError::SubscriptOutOfRange() { return {Err::SubscriptOutOfRange, QStringLiteral("インデックスが有効範囲にありません。")}; }

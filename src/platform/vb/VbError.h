@@ -57,7 +57,7 @@ inline constexpr long PathNotFound = 76;
 inline constexpr long InvalidPatternString = 93;
 inline constexpr long InvalidUseOfNull = 94;
 inline constexpr long FormAlreadyShown = 400;
-inline constexpr long CancelSelected = 32755;  // the common dialog's CancelError
+inline constexpr long CancelSelected = 32755; // the common dialog's CancelError
 } // namespace Err
 
 } // namespace vb

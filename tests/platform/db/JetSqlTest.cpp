@@ -26,7 +26,8 @@ const RewriteCase kRewrites[] = {
      "UPDATE tbl_Pclist SET \"Workgroup\" = 'A' WHERE MainKey = 5"},
     {"qualified_bare_update_target", "UPDATE tbl_Pclist SET tbl_Pclist.Update  = '2005/12/04' WHERE MainKey = 1",
      "UPDATE tbl_Pclist SET \"Update\"  = '2005/12/04' WHERE MainKey = 1"},
-    {"two_targets", "UPDATE tbl_Computer_List SET tbl_Computer_List.[Location_Code] = 0, tbl_Computer_List.Model_Code = 1 WHERE MainKey = 1",
+    {"two_targets",
+     "UPDATE tbl_Computer_List SET tbl_Computer_List.[Location_Code] = 0, tbl_Computer_List.Model_Code = 1 WHERE MainKey = 1",
      "UPDATE tbl_Computer_List SET \"Location_Code\" = 0, \"Model_Code\" = 1 WHERE MainKey = 1"},
     {"unqualified_target", "UPDATE tbl_Pclist SET IPAddress_16num = 'C0A80001' WHERE MainKey = 2",
      "UPDATE tbl_Pclist SET \"IPAddress_16num\" = 'C0A80001' WHERE MainKey = 2"},
@@ -57,13 +58,9 @@ const RewriteCase kRewrites[] = {
 
 class Rewrite : public ::testing::TestWithParam<RewriteCase> {};
 
-TEST_P(Rewrite, GivesSqliteText)
-{
-    EXPECT_EQ(JetSql::Rewrite(QString::fromUtf8(GetParam().jet)).toStdString(), GetParam().sqlite);
-}
+TEST_P(Rewrite, GivesSqliteText) { EXPECT_EQ(JetSql::Rewrite(QString::fromUtf8(GetParam().jet)).toStdString(), GetParam().sqlite); }
 
-INSTANTIATE_TEST_SUITE_P(JetSql, Rewrite, ::testing::ValuesIn(kRewrites),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(JetSql, Rewrite, ::testing::ValuesIn(kRewrites), [](const auto& info) { return std::string(info.param.name); });
 
 TEST(JetSql, LiftsTheLiteralsOfWritesAndOfWhereClauses)
 {
@@ -74,7 +71,8 @@ TEST(JetSql, LiftsTheLiteralsOfWritesAndOfWhereClauses)
     EXPECT_EQ(std::get<std::int64_t>(u.params[0]), 512);
     EXPECT_EQ(std::get<std::int64_t>(u.params[1]), 3);
 
-    const JetStatement s = JetSql::Parse(u"SELECT 'x', MainKey FROM tbl_Pclist WHERE (Computer_Name = 'it''s' AND MainKey > 2.5) ORDER BY 1;");
+    const JetStatement s =
+        JetSql::Parse(u"SELECT 'x', MainKey FROM tbl_Pclist WHERE (Computer_Name = 'it''s' AND MainKey > 2.5) ORDER BY 1;");
     EXPECT_EQ(s.shape, QStringLiteral("SELECT 'x', MainKey FROM tbl_Pclist WHERE (Computer_Name = ? AND MainKey > ?) ORDER BY 1;"))
         << "the select list and ORDER BY keep their literals";
     ASSERT_EQ(s.params.size(), 2u);

@@ -93,10 +93,11 @@ TEST_F(RecordsetTest, ValuesAreTypedByTheDeclaredColumnType)
 TEST_F(RecordsetTest, JoinedFieldsAreNamedAsAdoNamedThem)
 {
     Recordset rs;
-    rs.Open(QStringLiteral("SELECT tbl_Pclist.*, tbl_Computer_List.*, tbl_User.Available_flug, tbl_Location.Available_flug "
-                           "FROM tbl_Pclist, tbl_Computer_List, tbl_User, tbl_Location WHERE tbl_Pclist.MainKey = tbl_Computer_List.MainKey "
-                           "AND tbl_Computer_List.User_Code = tbl_User.User_Code AND tbl_Computer_List.Location_Code = tbl_Location.Location_Code "
-                           "AND tbl_Pclist.MainKey = 1"),
+    rs.Open(QStringLiteral(
+                "SELECT tbl_Pclist.*, tbl_Computer_List.*, tbl_User.Available_flug, tbl_Location.Available_flug "
+                "FROM tbl_Pclist, tbl_Computer_List, tbl_User, tbl_Location WHERE tbl_Pclist.MainKey = tbl_Computer_List.MainKey "
+                "AND tbl_Computer_List.User_Code = tbl_User.User_Code AND tbl_Computer_List.Location_Code = tbl_Location.Location_Code "
+                "AND tbl_Pclist.MainKey = 1"),
             l.connection(), db::adOpenStatic, db::adLockOptimistic);
     QStringList names;
     for (int i = 0; i < rs.FieldCount(); ++i)

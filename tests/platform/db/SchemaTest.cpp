@@ -21,11 +21,11 @@ TEST(Schema, HoldsTheTablesWithTheirExactColumns)
     EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_ReadCsv")),
               (QStringList{"Key", "Group", "Item", "SubItem", "Contents", "Unit", "Renewalday"}));
     EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_User")),
-              (QStringList{"User_Code", "User_Name", "User_Comment", "Available_flug", "kana", "Employee_SerialNumber",
-                           "Acount_Name", "logon_Password", "Section_Code", "Division_Code"}));
+              (QStringList{"User_Code", "User_Name", "User_Comment", "Available_flug", "kana", "Employee_SerialNumber", "Acount_Name",
+                           "logon_Password", "Section_Code", "Division_Code"}));
     EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_Mail_Management")),
-              (QStringList{"Key", "User_Code", "Conputer_Code", "beat_loginID", "beat_loginPassward", "Windows_UserName",
-                           "Mail_Address", "SMTP_IPAddress", "POP3_IPAddress", "Mailbox_AccountName", "Mailbox_Password"}));
+              (QStringList{"Key", "User_Code", "Conputer_Code", "beat_loginID", "beat_loginPassward", "Windows_UserName", "Mail_Address",
+                           "SMTP_IPAddress", "POP3_IPAddress", "Mailbox_AccountName", "Mailbox_Password"}));
     const QStringList pc = columnsOf(l, QStringLiteral("tbl_Pclist"));
     EXPECT_EQ(pc.size(), 116);
     for (const char* name : {"CPU_3DNowEx", "DomeinName", "HostsName", "IPAddress_16num", "Memory_Used_unit", "HUB_Name",
@@ -40,7 +40,8 @@ TEST(Schema, HoldsTheRowsOfCodeZeroAndAnUnsetComputer)
     for (const char* t : {"tbl_Section", "tbl_Division", "tbl_Location", "tbl_Manufacturer", "tbl_Model"})
         EXPECT_EQ(l.rows(QStringLiteral("SELECT * FROM %1").arg(QString::fromUtf8(t))), QStringList{QStringLiteral("0|||0")}) << t;
     EXPECT_EQ(l.rows(QStringLiteral("SELECT * FROM tbl_User")), QStringList{QStringLiteral("0|||0|||||0|0")});
-    EXPECT_EQ(l.rows(QStringLiteral("SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, Deleted_Flug FROM tbl_Computer_List")),
+    EXPECT_EQ(l.rows(QStringLiteral(
+                  "SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, Deleted_Flug FROM tbl_Computer_List")),
               QStringList{QStringLiteral("0|0|0|0|0|NULL")});
     EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_PClist WHERE MainKey = 0")), QStringLiteral("1"));
     l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
@@ -95,12 +96,17 @@ TEST(Schema, StoresDatesInOneForm)
     };
     int key = 1;
     for (const auto& c : cases) {
-        l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Leasing_StartDate) VALUES (%1, '%2')").arg(key).arg(QString::fromUtf8(c.given)));
+        l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Leasing_StartDate) VALUES (%1, '%2')")
+                   .arg(key)
+                   .arg(QString::fromUtf8(c.given)));
         EXPECT_EQ(l.value(QStringLiteral("SELECT Leasing_StartDate FROM tbl_Computer_List WHERE MainKey = %1").arg(key)),
-                  QString::fromUtf8(c.stored)) << c.given;
-        l.exec(QStringLiteral("UPDATE tbl_Computer_List SET Remove_Date = '%1' WHERE MainKey = %2").arg(QString::fromUtf8(c.given)).arg(key));
+                  QString::fromUtf8(c.stored))
+            << c.given;
+        l.exec(
+            QStringLiteral("UPDATE tbl_Computer_List SET Remove_Date = '%1' WHERE MainKey = %2").arg(QString::fromUtf8(c.given)).arg(key));
         EXPECT_EQ(l.value(QStringLiteral("SELECT Remove_Date FROM tbl_Computer_List WHERE MainKey = %1").arg(key)),
-                  QString::fromUtf8(c.stored)) << c.given;
+                  QString::fromUtf8(c.stored))
+            << c.given;
         ++key;
     }
     // the "date text" columns keep what they were given
@@ -116,7 +122,8 @@ TEST(Schema, NamesAreCaseBlind)
     EXPECT_EQ(l.rows(QStringLiteral("SELECT IPAddress, Workgroup, CPU_3DNowEx, Memory_Used_unit FROM tbl_Pclist")),
               QStringList{QStringLiteral("10.0.0.1|W|1|MB")});
     l.exec(QStringLiteral("INSERT INTO tbl_User (User_Code, User_Name, Available_flug) VALUES (1, 'Sato', '0')"));
-    EXPECT_EQ(l.value(QStringLiteral("SELECT User_Code FROM tbl_User WHERE User_Name = 'SATO' AND Available_Flug = '0'")), QStringLiteral("1"))
+    EXPECT_EQ(l.value(QStringLiteral("SELECT User_Code FROM tbl_User WHERE User_Name = 'SATO' AND Available_Flug = '0'")),
+              QStringLiteral("1"))
         << "text compares without regard to case, as Jet compared it";
 }
 

@@ -8,10 +8,7 @@
 
 namespace {
 
-int stepValue(const db::Statement& s)
-{
-    return sqlite3_step(s.handle()) == SQLITE_ROW ? sqlite3_column_int(s.handle(), 0) : -1;
-}
+int stepValue(const db::Statement& s) { return sqlite3_step(s.handle()) == SQLITE_ROW ? sqlite3_column_int(s.handle(), 0) : -1; }
 
 } // namespace
 

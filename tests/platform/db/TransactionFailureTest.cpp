@@ -14,7 +14,10 @@ namespace {
 
 class TransactionFailure : public ::testing::Test {
 protected:
-    QString keys() { return ledger.rows(QStringLiteral("SELECT MainKey FROM tbl_Pclist WHERE MainKey > 0 ORDER BY 1")).join(QLatin1Char(',')); }
+    QString keys()
+    {
+        return ledger.rows(QStringLiteral("SELECT MainKey FROM tbl_Pclist WHERE MainKey > 0 ORDER BY 1")).join(QLatin1Char(','));
+    }
     void insert(int key) { c().Execute(QStringLiteral("INSERT INTO tbl_Pclist (MainKey) VALUES (%1)").arg(key)); }
     db::Connection& c() { return ledger.connection(); }
     // Lets the file grow by a few pages only: the next large write fails with "disk full".

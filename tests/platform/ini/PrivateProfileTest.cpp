@@ -43,7 +43,7 @@ TEST(PrivateProfile, ReadsValuesAsWindowsDid)
                     "NoEquals\r\n"
                     "FormTop=99\r\n"
                     "\r\n"
-                    "[ \x95\x5C\x8E\xA6 ]\r\n" // "[ 表示 ]"
+                    "[ \x95\x5C\x8E\xA6 ]\r\n"              // "[ 表示 ]"
                     "\x83\x5C\x83\x74\x83\x67=\x95\x5C\r\n" // "ソフト=表"
                     "[main]\n"
                     "FormLeft=99\n"
@@ -81,12 +81,10 @@ TEST(PrivateProfile, ReadsValuesAsWindowsDid)
         SCOPED_TRACE(c.name);
         EXPECT_EQ(Utf8(GetPrivateProfileString(c.section, c.key, def, 256, path)), Utf8(c.expected));
     }
-    EXPECT_EQ(Utf8(GetPrivateProfileString(QStringLiteral("Main"), QStringLiteral("x"),
-                                           QStringLiteral("d \t "), 256, path)),
-              "d");
-    EXPECT_EQ(Utf8(GetPrivateProfileString(QStringLiteral("Main"), QStringLiteral("FormTop"),
-                                           def, 256, dir.file(QStringLiteral("none.ini")))),
-              Utf8(def));
+    EXPECT_EQ(Utf8(GetPrivateProfileString(QStringLiteral("Main"), QStringLiteral("x"), QStringLiteral("d \t "), 256, path)), "d");
+    EXPECT_EQ(
+        Utf8(GetPrivateProfileString(QStringLiteral("Main"), QStringLiteral("FormTop"), def, 256, dir.file(QStringLiteral("none.ini")))),
+        Utf8(def));
 }
 
 TEST(PrivateProfile, ReadIsCutToTheBufferWithoutHalfCharacters)
@@ -94,14 +92,14 @@ TEST(PrivateProfile, ReadIsCutToTheBufferWithoutHalfCharacters)
     TempDir dir;
     const QString a300(300, u'a');
     const QString kana200(200, u'あ');
-    dir.write(kIni, Sjis(QStringLiteral("[V]\r\nA=") + a300 + QStringLiteral("\r\nK=") + kana200
-                         + QStringLiteral("\r\nM=a") + kana200 + QStringLiteral("\r\n")));
+    dir.write(kIni, Sjis(QStringLiteral("[V]\r\nA=") + a300 + QStringLiteral("\r\nK=") + kana200 + QStringLiteral("\r\nM=a") + kana200
+                         + QStringLiteral("\r\n")));
     const QString path = dir.file(kIni);
     const auto read = [&](const char* key, int size) {
         return GetPrivateProfileString(QStringLiteral("V"), QString::fromLatin1(key), QString(), size, path);
     };
     EXPECT_EQ(read("A", 256), a300.left(255));
-    EXPECT_EQ(read("K", 256), kana200.left(127)); // 254 bytes: the 128th would need 256
+    EXPECT_EQ(read("K", 256), kana200.left(127));                       // 254 bytes: the 128th would need 256
     EXPECT_EQ(read("M", 256), QStringLiteral("a") + kana200.left(127)); // 255 bytes exactly
     EXPECT_EQ(read("K", 4), kana200.left(1));
     EXPECT_EQ(read("K", 1), QString());
@@ -121,34 +119,30 @@ TEST(PrivateProfile, WritesEditTheFileInPlace)
     const QString formTop = QStringLiteral("FormTop");
     const QByteArray sample = "; views\r\n[Main]\r\nA = 1\r\nFormTop=1\r\n\r\n[0]\r\nX=1\r\n";
     const Case cases[] = {
-        {"missing file is made", std::nullopt, main, formTop, QStringLiteral("50"),
-         "[Main]\r\nFormTop=50\r\n"},
+        {"missing file is made", std::nullopt, main, formTop, QStringLiteral("50"), "[Main]\r\nFormTop=50\r\n"},
         {"key line replaced, the rest kept", sample, main, formTop, QStringLiteral("50"),
          "; views\r\n[Main]\r\nA = 1\r\nFormTop=50\r\n\r\n[0]\r\nX=1\r\n"},
-        {"found without case, written as given", sample, QStringLiteral("MAIN"), QStringLiteral("a"),
-         QStringLiteral("2"), "; views\r\n[Main]\r\na=2\r\nFormTop=1\r\n\r\n[0]\r\nX=1\r\n"},
-        {"new key after the last line that is not blank", sample, main, QStringLiteral("B"),
-         QStringLiteral("2"), "; views\r\n[Main]\r\nA = 1\r\nFormTop=1\r\nB=2\r\n\r\n[0]\r\nX=1\r\n"},
-        {"new key in a last section without line end", "[Main]\r\nA=1", main, QStringLiteral("B"),
-         QStringLiteral("2"), "[Main]\r\nA=1\r\nB=2\r\n"},
-        {"new section at the end", sample, QStringLiteral("1"), QStringLiteral("OptDel"),
-         QStringLiteral("0"), sample + "[1]\r\nOptDel=0\r\n"},
-        {"new section after a last line without end", "[Main]\nA=1", QStringLiteral("1"),
-         QStringLiteral("OptDel"), QStringLiteral("0"), "[Main]\nA=1\r\n[1]\r\nOptDel=0\r\n"},
-        {"lf lines kept, written line crlf", "[Main]\nA=1\nB=2\n", main, QStringLiteral("A"),
-         QStringLiteral("3"), "[Main]\nA=3\r\nB=2\n"},
-        {"first of two keys replaced", "[Main]\r\nA=1\r\nA=2\r\n", main, QStringLiteral("A"),
-         QStringLiteral("3"), "[Main]\r\nA=3\r\nA=2\r\n"},
+        {"found without case, written as given", sample, QStringLiteral("MAIN"), QStringLiteral("a"), QStringLiteral("2"),
+         "; views\r\n[Main]\r\na=2\r\nFormTop=1\r\n\r\n[0]\r\nX=1\r\n"},
+        {"new key after the last line that is not blank", sample, main, QStringLiteral("B"), QStringLiteral("2"),
+         "; views\r\n[Main]\r\nA = 1\r\nFormTop=1\r\nB=2\r\n\r\n[0]\r\nX=1\r\n"},
+        {"new key in a last section without line end", "[Main]\r\nA=1", main, QStringLiteral("B"), QStringLiteral("2"),
+         "[Main]\r\nA=1\r\nB=2\r\n"},
+        {"new section at the end", sample, QStringLiteral("1"), QStringLiteral("OptDel"), QStringLiteral("0"),
+         sample + "[1]\r\nOptDel=0\r\n"},
+        {"new section after a last line without end", "[Main]\nA=1", QStringLiteral("1"), QStringLiteral("OptDel"), QStringLiteral("0"),
+         "[Main]\nA=1\r\n[1]\r\nOptDel=0\r\n"},
+        {"lf lines kept, written line crlf", "[Main]\nA=1\nB=2\n", main, QStringLiteral("A"), QStringLiteral("3"), "[Main]\nA=3\r\nB=2\n"},
+        {"first of two keys replaced", "[Main]\r\nA=1\r\nA=2\r\n", main, QStringLiteral("A"), QStringLiteral("3"),
+         "[Main]\r\nA=3\r\nA=2\r\n"},
         {"empty value", sample, QStringLiteral("0"), QStringLiteral("X"), QString(),
          "; views\r\n[Main]\r\nA = 1\r\nFormTop=1\r\n\r\n[0]\r\nX=\r\n"},
-        {"japanese value", "[Main]\r\n", main, QStringLiteral("SectionName0"),
-         QStringLiteral("全機器ｶﾅ"), Sjis(QStringLiteral("[Main]\r\nSectionName0=全機器ｶﾅ\r\n"))},
-        {"key erased", sample, main, QStringLiteral("a"), std::nullopt,
-         "; views\r\n[Main]\r\nFormTop=1\r\n\r\n[0]\r\nX=1\r\n"},
-        {"section erased up to the next header", "[Main]\r\nA=1\r\n[0]\r\nX=1\r\n; c\r\n\r\n[1]\r\nY=2\r\n",
-         QStringLiteral("0"), std::nullopt, std::nullopt, "[Main]\r\nA=1\r\n[1]\r\nY=2\r\n"},
-        {"last section erased", sample, QStringLiteral("0"), std::nullopt, std::nullopt,
-         "; views\r\n[Main]\r\nA = 1\r\nFormTop=1\r\n\r\n"},
+        {"japanese value", "[Main]\r\n", main, QStringLiteral("SectionName0"), QStringLiteral("全機器ｶﾅ"),
+         Sjis(QStringLiteral("[Main]\r\nSectionName0=全機器ｶﾅ\r\n"))},
+        {"key erased", sample, main, QStringLiteral("a"), std::nullopt, "; views\r\n[Main]\r\nFormTop=1\r\n\r\n[0]\r\nX=1\r\n"},
+        {"section erased up to the next header", "[Main]\r\nA=1\r\n[0]\r\nX=1\r\n; c\r\n\r\n[1]\r\nY=2\r\n", QStringLiteral("0"),
+         std::nullopt, std::nullopt, "[Main]\r\nA=1\r\n[1]\r\nY=2\r\n"},
+        {"last section erased", sample, QStringLiteral("0"), std::nullopt, std::nullopt, "; views\r\n[Main]\r\nA = 1\r\nFormTop=1\r\n\r\n"},
         {"missing key erased", sample, main, QStringLiteral("Z"), std::nullopt, sample},
         {"missing section erased", sample, QStringLiteral("5"), std::nullopt, std::nullopt, sample},
     };

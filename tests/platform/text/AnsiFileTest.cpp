@@ -32,8 +32,7 @@ TEST(AnsiFile, WritesCp932LinesEndedByCrLfOverTheOldFile)
         file.WriteLine(QString());
         file.Write(QStringLiteral("末尾"));
     } // the destructor closes
-    EXPECT_EQ(dir.read(QStringLiteral("list.csv")),
-              QByteArray("\x8B\x40\x8A\xED\x96\xBC,\xB6\xC5\r\na,?\r\n\x96\x96\x94\xF6"));
+    EXPECT_EQ(dir.read(QStringLiteral("list.csv")), QByteArray("\x8B\x40\x8A\xED\x96\xBC,\xB6\xC5\r\na,?\r\n\x96\x96\x94\xF6"));
 }
 
 TEST(AnsiFile, LongOutputIsWrittenWholeAndCloseEndsWriting)

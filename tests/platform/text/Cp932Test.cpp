@@ -25,7 +25,9 @@ TEST(Cp932, CharactersHaveTheBytesWindowsWritesBothWays)
         {"circled one", QStringLiteral("①"), "\x87\x40"},
         {"halfwidth katakana and marks", QStringLiteral("ｱﾞﾟ･ｰ"), "\xB1\xDE\xDF\xA5\xB0"},
         {"kanji with trail 0x5C beside a backslash", QStringLiteral("表\\"), "\x95\x5C\x5C"},
-        {"tab and ideographic space", QStringLiteral("A\t\u3000漢1"), "A\t\x81\x40\x8A\xBF" "1"},
+        {"tab and ideographic space", QStringLiteral("A\t\u3000漢1"),
+         "A\t\x81\x40\x8A\xBF"
+         "1"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -41,10 +43,16 @@ TEST(Cp932, WhatCannotConvertBecomesOneMarkEach)
         QByteArray bytes;
         QString text;
     } bad[] = {
-        {"byte 0x80", "a\x80" "b", QStringLiteral("a\uFFFDb")},
+        {"byte 0x80",
+         "a\x80"
+         "b",
+         QStringLiteral("a\uFFFDb")},
         {"byte 0xFF", "\xFF\xFF", QStringLiteral("\uFFFD\uFFFD")},
         {"lead byte at the end", "\x82\xA0\x82", QStringLiteral("あ\uFFFD")},
-        {"lead byte before ASCII", "\x82" "A", QStringLiteral("\uFFFDA")},
+        {"lead byte before ASCII",
+         "\x82"
+         "A",
+         QStringLiteral("\uFFFDA")},
         {"unassigned row", "\x85\x40", QStringLiteral("\uFFFD@")},
     };
     for (const auto& c : bad)

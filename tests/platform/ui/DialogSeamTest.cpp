@@ -74,7 +74,7 @@ bool QtSaveAsks(long flags, const QString& file, std::optional<QString>& chosen)
             }
         });
         dialog->selectFile(file);
-        static_cast<QDialog*>(dialog)->accept();   // QFileDialog::accept, as the Save button
+        static_cast<QDialog*>(dialog)->accept(); // QFileDialog::accept, as the Save button
     });
     chosen = ui::QtDialogs().FileDialog(r);
     return asked;

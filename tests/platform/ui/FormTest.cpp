@@ -121,7 +121,7 @@ TEST(Form, CloseBoxAsksWithModeZeroAndMayBeRefused)
 
 TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
 {
-    auto frm = [] () -> Probe& { return Probe::Instance(); };
+    auto frm = []() -> Probe& { return Probe::Instance(); };
     frm().Show(ui::vbModal);
     EXPECT_TRUE(frm().isVisible());
     EXPECT_EQ(frm().windowModality(), Qt::ApplicationModal);

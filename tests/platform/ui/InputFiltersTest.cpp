@@ -59,10 +59,7 @@ TEST(KeyPressFilter, BackspacePassesAndPastingIsNotFiltered)
     EXPECT_EQ(edit.text(), QStringLiteral("1ab978"));
 }
 
-void recordColour(QWidget* control, std::int16_t mode)
-{
-    control->setProperty("focusMode", int(mode));
-}
+void recordColour(QWidget* control, std::int16_t mode) { control->setProperty("focusMode", int(mode)); }
 
 TEST(FocusEvents, FocusColourFollowsTheFocus)
 {

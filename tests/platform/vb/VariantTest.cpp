@@ -20,8 +20,7 @@ namespace {
 struct Raises {
     long number;
 };
-template <typename T>
-using Outcome = std::variant<T, Raises>;
+template <typename T> using Outcome = std::variant<T, Raises>;
 
 Variant S(const char* utf8) { return Variant(QString::fromUtf8(utf8)); }
 Variant I(std::int16_t i) { return Variant::Integer(i); }
@@ -32,16 +31,14 @@ const Raises kOverflow{Err::Overflow};
 const Raises kMismatch{Err::TypeMismatch};
 const Raises kNull{Err::InvalidUseOfNull};
 
-template <typename T>
-struct Case {
+template <typename T> struct Case {
     const char* name;
     Variant in;
     Outcome<T> out;
 };
 
 // Each case must give the expected value, or raise the expected error.
-template <typename T, typename F, size_t N>
-void RunCases(const Case<T> (&cases)[N], F convert)
+template <typename T, typename F, size_t N> void RunCases(const Case<T> (&cases)[N], F convert)
 {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -236,10 +233,9 @@ TEST(Conversion, ValReadsTheLeadingNumber)
         const char* text;
         double value;
     } cases[] = {
-        {"12abc", 12},      {"", 0},           {" 1 2 ", 12},      {"\t1\n2", 12},    {"1,234", 1},
-        {"&hff", 255},      {"&HFFFF", -1},    {"&HFFFFF", 1048575}, {"&H1Z", 1},     {"&O78", 7},
-        {"&H", 0},          {"-3", -3},        {"2d2", 200},       {"1e", 1},         {"1e+x", 1},
-        {"-3.5e1 x", -35},  {"1.2.3", 1.2},    {".", 0},           {"abc12", 0},      {"-x", 0},
+        {"12abc", 12},        {"", 0},           {" 1 2 ", 12},  {"\t1\n2", 12}, {"1,234", 1}, {"&hff", 255}, {"&HFFFF", -1},
+        {"&HFFFFF", 1048575}, {"&H1Z", 1},       {"&O78", 7},    {"&H", 0},      {"-3", -3},   {"2d2", 200},  {"1e", 1},
+        {"1e+x", 1},          {"-3.5e1 x", -35}, {"1.2.3", 1.2}, {".", 0},       {"abc12", 0}, {"-x", 0},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Val(QString::fromUtf8(c.text)), c.value) << '"' << c.text << '"';
