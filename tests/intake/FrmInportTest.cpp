@@ -8,7 +8,7 @@
 #include "platform/ui/ListBox.h"
 #include "platform/ui/Twips.h"
 
-#include "support/WindowTest.h"
+#include "IntakeFixture.h"
 
 #include <QAction>
 #include <QLineEdit>
@@ -17,8 +17,6 @@
 #include <map>
 
 namespace {
-
-QString Inventory(const QString& name) { return TestDataPath(QStringLiteral("inventory/") + name); }
 
 class FrmInport : public WindowTest {
 protected:
@@ -114,13 +112,10 @@ TEST_F(FrmInport, AFileReviewedOntoAComputerLeavesItAsTheBulkReadWouldSaveTheRow
     EXPECT_EQ(dialogs.calls().back().file.title, QStringLiteral("Sondexデータ読み込み"));
     EXPECT_EQ(dialogs.calls().back().file.filterIndex, 2);
     EXPECT_EQ(grid.TextMatrix(106, 1), QStringLiteral("Model"));
-    EXPECT_EQ(grid.TextMatrix(1, 4), QStringLiteral("PC-SOUMU-01"));
-    EXPECT_EQ(grid.TextMatrix(7, 4), QStringLiteral("512MB")) << "the file's text as it stands";
-    EXPECT_EQ(grid.TextMatrix(53, 4), QStringLiteral("TRUE"));
-    EXPECT_EQ(grid.TextMatrix(59, 4), QStringLiteral("FALSE"));
-    EXPECT_EQ(grid.TextMatrix(42, 4), QStringLiteral("0")) << "an empty cache size";
-    EXPECT_EQ(grid.TextMatrix(99, 4), QStringLiteral("1"));
-    EXPECT_EQ(grid.TextMatrix(4, 4), QStringLiteral("C0A8000A"));
+    // the file's texts as they stand ("512MB"), an empty cache size as 0
+    for (const auto& [row, text] :
+         {std::pair{1, "PC-SOUMU-01"}, {7, "512MB"}, {53, "TRUE"}, {59, "FALSE"}, {42, "0"}, {99, "1"}, {4, "C0A8000A"}})
+        EXPECT_EQ(grid.TextMatrix(row, 4), QLatin1String(text)) << row;
     EXPECT_EQ(cells(*w.MSGrid_Application, 1).value(3), QStringLiteral("Adobe Reader 7.0.5 - 日本語||"));
     EXPECT_EQ(w.MSGrid_Application->Rows(), 6);
 
@@ -190,18 +185,14 @@ TEST_F(FrmInport, AnEnglishFileFillsOnlyTheRowsWhoseKeywordsAgreeAndTheOverwrite
     openFile(w, QStringLiteral("en_pc02.csv"));
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97) << "staged";
     ui::FlexGrid& grid = *w.MSFlexGrid1;
-    EXPECT_EQ(grid.TextMatrix(1, 4), QString()) << "Computer name is no Japanese keyword";
-    EXPECT_EQ(grid.TextMatrix(7, 4), QString());
-    EXPECT_EQ(grid.TextMatrix(26, 4), QStringLiteral("Microsoft Windows 2000 Professional"));
-    EXPECT_EQ(grid.TextMatrix(34, 4), QStringLiteral("2793.5"));
-    EXPECT_EQ(grid.TextMatrix(106, 4), QStringLiteral("OptiPlex GX270"));
+    // the computer's name and the memory have no Japanese keyword in the file
+    for (const auto& [row, text] :
+         {std::pair{1, ""}, {7, ""}, {26, "Microsoft Windows 2000 Professional"}, {34, "2793.5"}, {106, "OptiPlex GX270"}})
+        EXPECT_EQ(grid.TextMatrix(row, 4), QLatin1String(text)) << row;
 
     // rows 1 to 6 are written, empty; row 7 has no number and ends the run
     overwrite(w);
-    EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
-    ended.clear();
-    EXPECT_TRUE(dialogs.messages().back().prompt.startsWith(QStringLiteral("実行時エラー '13':")))
-        << dialogs.messages().back().prompt.toStdString();
+    EXPECT_EQ(fatalEnd(), QStringLiteral("13"));
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Computer_Name, Workgroup, IPAddress, IPAddress_16num, \"Update\", MacAddress, "
                                          "Memory_Full FROM tbl_Pclist WHERE MainKey = 1")),
               QStringList{QStringLiteral("||||||") + memory});
@@ -220,9 +211,7 @@ TEST_F(FrmInport, TheGuardsOfTheWindow)
     frm_Inport& w = open();
     // the names in order; the one of eighteen characters cannot be filled to 17 and ends the list
     EXPECT_EQ(w.List_ComuputerName->count(), 0);
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
-    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("（エラーコード：5）")));
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{5});
     w.Mnu_Close->trigger();
     flushDeletes();
     dialogs.clear();

@@ -4,6 +4,7 @@
 
 #include "platform/text/LineInput.h"
 #include "platform/vb/VbError.h"
+#include "support/VbErrors.h"
 
 #include <iterator>
 #include <random>
@@ -101,12 +102,7 @@ TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
     EXPECT_EQ(Mdl_gData::g.CsvFileBaseName, QStringLiteral("bom"));
 
     // a file that cannot be opened raises to the caller, staging untouched
-    try {
-        ReadCsvToStaging(files.file(QStringLiteral("missing.csv")));
-        ADD_FAILURE() << "no error for a missing file";
-    } catch (const vb::VbError& e) {
-        EXPECT_EQ(e.Number(), 53);
-    }
+    EXPECT_EQ(ErrorOf([&] { ReadCsvToStaging(files.file(QStringLiteral("missing.csv"))); }), 53);
     EXPECT_EQ(staging(), before);
 
     // only the header: accepted, and staging is empty
@@ -185,15 +181,12 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
     // the modes without a caller, into columns that fit them; a mode outside 1 to 8 writes nothing
     ledger.exec(QStringLiteral("DELETE FROM tbl_Environmental"));
     const QString env = QStringLiteral("SELECT * FROM tbl_ReadCsv WHERE (Group = 'Environmental')");
-    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Name, Environmental_Path, [Key] ) VALUES("),
-                    QStringLiteral("1"), 1);
-    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Path, Coments, [Key] ) VALUES("),
-                    QStringLiteral("2"), 2);
-    CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
-                    QStringLiteral("3"), 3);
-    CopyStagingRows(
-        env, QStringLiteral("INSERT INTO tbl_Environmental ( [Update], Environmental_Name, Environmental_Path, Coments, [Key] ) VALUES("),
-        QStringLiteral("4"), 4);
+    const char* columns[] = {"Environmental_Name, Environmental_Path", "Environmental_Path, Coments",
+                             "Environmental_Name, Environmental_Path, Coments",
+                             "[Update], Environmental_Name, Environmental_Path, Coments"};
+    for (int mode = 1; mode <= 4; ++mode)
+        CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( %1, [Key] ) VALUES(").arg(QLatin1String(columns[mode - 1])),
+                        QString::number(mode), mode);
     CopyStagingRows(env, QStringLiteral("INSERT INTO tbl_Environmental ( [Key] ) VALUES("), QStringLiteral("9"), 9);
     EXPECT_EQ(ledger.rows(QStringLiteral(
                   "SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path, Coments FROM tbl_Environmental ORDER BY rowid")),
