@@ -26,15 +26,6 @@ protected:
         rows.sort();
         return rows;
     }
-    void chooseLocation(frm_List_Application& w, const QString& name)
-    {
-        w.cmb_Location->showPopup();
-        w.cmb_Location->hidePopup();
-        const int index = w.cmb_Location->findText(name);
-        ASSERT_GE(index, 0) << name.toStdString();
-        w.cmb_Location->setCurrentIndex(index);
-        Q_EMIT w.cmb_Location->activated(index);
-    }
     QByteArray exported(frm_List_Application& w)
     {
         dialogs.answerFile(out.file(QStringLiteral("apps")));
@@ -78,10 +69,10 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
     EXPECT_EQ(w.MSFlexGrid_User->CellBackColorAt(2, 2), ui::QBColor(15));
 
     // a location narrows the list; one without such a computer leaves it standing
-    chooseLocation(w, QStringLiteral("別館"));
+    pick(*w.cmb_Location, QStringLiteral("別館"));
     EXPECT_EQ(w.tbx_Location->text(), QStringLiteral("2"));
     EXPECT_EQ(sorted(cells(*w.MSFlexGrid_User, 1)), (QStringList{"PC-B|別館|||佐藤|11.0", "PC-B|別館|||佐藤|12.0"}));
-    chooseLocation(w, QStringLiteral("倉庫"));
+    pick(*w.cmb_Location, QStringLiteral("倉庫"));
     EXPECT_EQ(cells(*w.MSFlexGrid_User, 1).size(), 2);
     const QByteArray file = exported(w);
     EXPECT_TRUE(file.startsWith("Office\r\n")) << "the name line first, as it stands";

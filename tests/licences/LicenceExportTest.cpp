@@ -80,26 +80,24 @@ const QString kAntivirus = QStringLiteral("ウイルスバスター2006");
 TEST_F(LicenceExport, EachListIsWrittenByteForByteAsItsWindowWritesIt)
 {
     fillLedger();
-    AdminRun r = exportList({QStringLiteral("licences")}, QStringLiteral("licences"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("licences")), expected("licences.csv"));
-    r = exportList({QStringLiteral("census")}, QStringLiteral("census.txt"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("census.txt")), expected("census.csv"));
-    r = exportList({QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus}, QStringLiteral("all"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("all")), expected("census_computers.csv"));
-    r = exportList({QStringLiteral("census-computers"), QStringLiteral("--location"), QStringLiteral("2"), QStringLiteral("--application"),
-                    kAntivirus},
-                   QStringLiteral("loc2"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("loc2")), expected("census_computers_loc2.csv"));
     // a location without such a computer leaves the list of all locations, as in the window
-    r = exportList({QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus, QStringLiteral("--location"),
-                    QStringLiteral("3")},
-                   QStringLiteral("loc3"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("loc3")), expected("census_computers.csv"));
+    const QString app = QStringLiteral("--application"), location = QStringLiteral("--location");
+    const struct {
+        QStringList args;
+        const char* file;
+    } lists[] = {
+        {{QStringLiteral("licences")}, "licences.csv"},
+        {{QStringLiteral("census")}, "census.csv"},
+        {{QStringLiteral("census-computers"), app, kAntivirus}, "census_computers.csv"},
+        {{QStringLiteral("census-computers"), location, QStringLiteral("2"), app, kAntivirus}, "census_computers_loc2.csv"},
+        {{QStringLiteral("census-computers"), app, kAntivirus, location, QStringLiteral("3")}, "census_computers.csv"},
+    };
+    for (const auto& [args, file] : lists) {
+        SCOPED_TRACE(args.join(u' ').toStdString());
+        const AdminRun r = exportList(args, QStringLiteral("by-command"));
+        EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+        EXPECT_EQ(written(QStringLiteral("by-command")), expected(file));
+    }
 
     // the windows, offscreen, over the same ledger: their exports add ".csv"
     frm_Edit_License::Instance().Show(ui::vbModeless);

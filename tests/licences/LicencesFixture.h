@@ -49,14 +49,4 @@ protected:
         if (!rest.isEmpty())
             ledger.exec(QStringLiteral("UPDATE tbl_License_Dat SET %1 WHERE Key = %2").arg(rest).arg(key));
     }
-
-    // The fatal report of a run-time error, as the last message box showed it; the end is taken
-    // back so that the fixture does not fail the test for it.
-    QString fatalEnd()
-    {
-        EXPECT_EQ(ended, std::vector<int>{1});
-        ended.clear();
-        const auto boxes = dialogs.messages();
-        return boxes.empty() ? QString() : boxes.back().prompt.section(QLatin1Char('\''), 1, 1);
-    }
 };
