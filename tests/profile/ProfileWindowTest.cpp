@@ -290,11 +290,8 @@ TEST_F(ProfileWindow, MasterListsAreReadOnDemandAndNameAndCodeNeverPart)
     ui::DropDownCombo& location = *w.cmb_Dat[3];
     EXPECT_EQ(location.count(), 0);
     w.cmb_Dat_DropDown(3);
-    QStringList entries;
-    for (int i = 0; i < location.count(); ++i)
-        entries << location.itemText(i) + u'=' + location.itemData(i).toString();
     // the reserved row 0 is available too; a removed location is not offered
-    EXPECT_EQ(entries, (QStringList{"=0", "本社3F=1", "大阪支店=2"}));
+    EXPECT_EQ(entries(location, true), (QStringList{"=0", "本社3F=1", "大阪支店=2"}));
     EXPECT_EQ(location.currentText(), QStringLiteral("本社3F"));
 
     location.setCurrentIndex(2);
