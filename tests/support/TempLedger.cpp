@@ -82,6 +82,17 @@ QString TempLedger::value(const QString& sql)
     return r.first().section(QLatin1Char('|'), 0, 0);
 }
 
+QStringList TempLedger::fields(const QString& table, int mainKey)
+{
+    const QStringList names = rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
+    const QStringList found = rows(QStringLiteral("SELECT * FROM %1 WHERE MainKey = %2").arg(table).arg(mainKey));
+    QStringList out;
+    const QStringList values = found.size() == 1 ? found.first().split(QLatin1Char('|')) : QStringList();
+    for (qsizetype i = 0; i < values.size(); ++i)
+        out << names.value(i) + QLatin1Char('=') + values[i];
+    return out;
+}
+
 int TempLedger::count(const QString& table, const QString& where)
 {
     return value(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(table, where)).toInt();

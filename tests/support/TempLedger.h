@@ -32,6 +32,9 @@ public:
     QStringList rows(const QString& sql);
     // The first value of the first row as text ("NULL" for Null, "" when there is no row).
     QString value(const QString& sql);
+    // A computer's row of tbl_Pclist or tbl_Computer_List as "column=value" entries in column
+    // order; none when it has no row.
+    QStringList fields(const QString& table, int mainKey);
     // The rows of a table that meet an SQLite condition.
     int count(const QString& table, const QString& where = QStringLiteral("1"));
     // A row of a master table with code, name, comment and flag ("1": retired).
