@@ -70,18 +70,6 @@ TEST_F(Staging, SplitsEachLineWithoutQuotingAndCutsNothingButLongFields)
     EXPECT_EQ(staging(), expected);
 }
 
-TEST_F(Staging, AQuoteInAValueReachesStagingUnharmed)
-{
-    ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc01.csv"))));
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 107);
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT SubItem FROM tbl_ReadCsv WHERE \"Key\" = '97'")), QStringLiteral("Tom's Mail Checker"));
-    // a comma inside Contents shifts the later fields of that line
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Contents, Unit, Renewalday FROM tbl_ReadCsv WHERE \"Key\" = '25'")),
-              QStringList{QStringLiteral("1|281|040,KB,2005/12/04 10:30:15")});
-    EXPECT_EQ(Mdl_gData::g.CsvFileBaseName, QStringLiteral("ja_pc01"));
-    EXPECT_EQ(Mdl_gData::g.CsvFileExtension, QStringLiteral("csv"));
-}
-
 TEST_F(Staging, ARefusedFileLeavesStagingAsItWas)
 {
     ASSERT_TRUE(ReadCsvToStaging(Inventory(QStringLiteral("ja_pc01.csv"))));
@@ -148,13 +136,6 @@ TEST_F(Staging, EachLineIsDecodedAsLineInputDecodesIt)
         }
         EXPECT_EQ(i, lines->size()) << file;
     }
-}
-
-TEST_F(Staging, LoneCarriageReturnsAndLineFeedsEndLinesToo)
-{
-    const QString path = write(QStringLiteral("mixed.csv"), kHeader.toLatin1() + "\r1,a,b,c,d,e,f\n2,g,h,i,j,k,l\r\n3,m,n,o,p,q,r");
-    ASSERT_TRUE(ReadCsvToStaging(path));
-    EXPECT_EQ(staging(), (QStringList{QStringLiteral("1|a|b|c|d|e|f"), QStringLiteral("2|g|h|i|j|k|l"), QStringLiteral("3|m|n|o|p|q|r")}));
 }
 
 TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
