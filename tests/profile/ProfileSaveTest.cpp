@@ -198,8 +198,9 @@ TEST_F(ProfileSaveTest, ARefusedValueWritesNothingAndSaysWhy)
         save(w);
         const std::vector<long> boxes = dialogs.errorBoxes();
         ASSERT_EQ(boxes.size(), 1u);
-        if (c.number)
+        if (c.number) {
             EXPECT_EQ(boxes[0], c.number);
+        }
         EXPECT_EQ(commits, 0);
         EXPECT_TRUE(updated.isEmpty());
     }

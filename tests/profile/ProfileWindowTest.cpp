@@ -53,7 +53,6 @@ TEST_F(ProfileWindow, EveryBoxShowsItsColumnAsTheWindowRendersIt)
     ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Cdrom_Drive = 1, Mo_Drive = 0 WHERE MainKey = 1"));
     frm_Edit_Computer& w = open(1);
     EXPECT_EQ(w.windowTitle(), QStringLiteral("PCのプロファイル"));
-    EXPECT_EQ(w.windowModality(), Qt::NonModal);
 
     // the band
     EXPECT_EQ(w.tbx_User->text(), QStringLiteral("山田 太郎"));

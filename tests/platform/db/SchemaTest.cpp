@@ -8,10 +8,7 @@ namespace {
 
 QStringList columnsOf(TempLedger& l, const QString& table)
 {
-    QStringList names;
-    for (const QString& r : l.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table)))
-        names << r;
-    return names;
+    return l.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
 }
 
 TEST(Schema, HoldsTheTablesWithTheirExactColumns)
