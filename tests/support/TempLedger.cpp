@@ -74,6 +74,15 @@ QStringList LedgerRows(const QString& path, const QString& sql)
     return queryRows(db.get(), sql);
 }
 
+QStringList LedgerDump(const QString& path)
+{
+    QStringList out;
+    for (const QString& table : LedgerRows(path, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")))
+        for (const QString& row : LedgerRows(path, QStringLiteral("SELECT * FROM \"%1\" ORDER BY rowid").arg(table)))
+            out << table + QLatin1Char(':') + row;
+    return out;
+}
+
 QString TempLedger::value(const QString& sql)
 {
     const QStringList r = rows(sql);

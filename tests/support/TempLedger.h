@@ -12,6 +12,8 @@
 // Every row of a query on the ledger file at path, opened read-only for the query alone; each row
 // as in TempLedger::rows.
 QStringList LedgerRows(const QString& path, const QString& sql);
+// Every row of every table of that ledger, in insertion order, each as "table:row".
+QStringList LedgerDump(const QString& path);
 
 // A fresh empty ledger (pcdb.mdb) in its own temporary folder, made the way fenwold-admin makes
 // one, with an open connection and plain-SQL helpers for assertions.
