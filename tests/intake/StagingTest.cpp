@@ -32,6 +32,9 @@ TEST(CsvHeader, OnlyTheExactSevenNamesPass)
         EXPECT_FALSE(CheckCsvHeader(line)) << line.toStdString();
 }
 
+// A file of these lines under the header, each ended by CR LF.
+QByteArray Csv(const QByteArrayList& lines) { return kHeader.toLatin1() + "\r\n" + lines.join("\r\n") + "\r\n"; }
+
 class Staging : public IntakeFixture {
 protected:
     QString write(const QString& name, const QByteArray& bytes)
@@ -142,14 +145,10 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
 {
     // the middle application's date is too long for [Update]: that row alone is lost
     const QByteArray longDate(300, '9');
-    const QString path = write(QStringLiteral("apps.csv"), kHeader.toLatin1()
-                                                               + "\r\n"
-                                                                 "1,Soft,Application,Tom's Tool,1.0,C:\\Tools\\,2005/12/04 10:30:15\r\n"
-                                                                 "2,Soft,Application,Too Late,2.0,C:\\Late\\,"
-                                                               + longDate
-                                                               + "\r\n"
-                                                                 "3,Soft,Application,Calc;Pro #2,3.0,D:\\Calc\\,2005/12/05\r\n"
-                                                                 "4,Environmental,PATH,C:\\bin;D:\\bin,,,2005/12/06\r\n");
+    const QString path = write(
+        QStringLiteral("apps.csv"),
+        Csv({"1,Soft,Application,Tom's Tool,1.0,C:\\Tools\\,2005/12/04 10:30:15", "2,Soft,Application,Too Late,2.0,C:\\Late\\," + longDate,
+             "3,Soft,Application,Calc;Pro #2,3.0,D:\\Calc\\,2005/12/05", "4,Environmental,PATH,C:\\bin;D:\\bin,,,2005/12/06"}));
     ASSERT_TRUE(ReadCsvToStaging(path));
     CopyAllStagingRows(QStringLiteral("7"));
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Application_Name, Application_Version, Application_Path "
@@ -181,22 +180,14 @@ TEST_F(Staging, CopiesRowsByModeSanitisedAndDropsARefusedRowAlone)
 TEST_F(Staging, CopiesFromTheStagedLinesAsFromTheTable)
 {
     const QByteArray longDate(300, '9');
-    const QString path = write(QStringLiteral("cases.csv"), kHeader.toLatin1()
-                                                                + "\r\n"
-                                                                  "1,Soft,Application,First,1.0,C:\\A\\,2005/12/04\r\n"
-                                                                  "2,soft,APPLICATION,Second,2.0,,2005/12/05\r\n"
-                                                                  "3,Soft,Application ,Blank behind,,,x\r\n"
-                                                                  "4,Soft,Application,Too long,,,"
-                                                                + longDate
-                                                                + "\r\n"
-                                                                  "5,DEVICE,Disk,Drive 'A',Maker;Co,1#2,2006\r\n"
-                                                                  "6,\x82\x63"
-                                                                  "evice,Disk,Full-width D,,,\r\n"
-                                                                  "7,Hard,printer,P1,LPT1:,,2006\r\n"
-                                                                  "8,Hard,Printers,P2,,,\r\n"
-                                                                  "9,environmental,PATH,C:\\bin,,,2006\r\n"
-                                                                  "10,Environmental,TEMP,C:\\tmp,,,\r\n"
-                                                                  "11,Soft,Application,Third,3.0,,2005/12/06\r\n");
+    const QString path = write(QStringLiteral("cases.csv"),
+                               Csv({"1,Soft,Application,First,1.0,C:\\A\\,2005/12/04", "2,soft,APPLICATION,Second,2.0,,2005/12/05",
+                                    "3,Soft,Application ,Blank behind,,,x", "4,Soft,Application,Too long,,," + longDate,
+                                    "5,DEVICE,Disk,Drive 'A',Maker;Co,1#2,2006",
+                                    "6,\x82\x63"
+                                    "evice,Disk,Full-width D,,,",
+                                    "7,Hard,printer,P1,LPT1:,,2006", "8,Hard,Printers,P2,,,", "9,environmental,PATH,C:\\bin,,,2006",
+                                    "10,Environmental,TEMP,C:\\tmp,,,", "11,Soft,Application,Third,3.0,,2005/12/06"}));
     const auto all = [&] {
         QStringList rows;
         for (const char* table : {"tbl_ApplicationsList", "tbl_Device_Management", "tbl_Printer_Management", "tbl_Environmental"})
