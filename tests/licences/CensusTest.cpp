@@ -44,14 +44,10 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
     computer(1, QStringLiteral("PC-A"), 1);
     computer(2, QStringLiteral("PC-B"), 2, 1);
     computer(3, QStringLiteral("PC-C"), 1, 0, 1);
-    installed(1, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(1, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(2, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(2, QStringLiteral("'Office'"), QStringLiteral("'12.0'"));
-    installed(3, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(3, QStringLiteral("'OnlyOnRetired'"));
-    installed(1, QStringLiteral("''"));
-    installed(2, QStringLiteral("'Tom''s Tool'"));
+    ledger.exec(
+        QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES (1, 'Office', '11.0'), "
+                       "(1, 'Office', '11.0'), (2, 'Office', '11.0'), (2, 'Office', '12.0'), (3, 'Office', '11.0'), "
+                       "(3, 'OnlyOnRetired', NULL), (1, '', NULL), (2, 'Tom''s Tool', NULL)"));
 
     frm_List_Application& w = open();
     EXPECT_EQ(w.windowTitle(), QStringLiteral("アプリケーション一覧"));
@@ -112,8 +108,8 @@ TEST_F(Census, TheRefreshAfterLoadActsOnTheLastRowAndAClickOnTheHeadingDoesNothi
 {
     computer(1, QStringLiteral("PC-A"));
     computer(2, QStringLiteral("PC-B"));
-    installed(1, QStringLiteral("'Office'"));
-    installed(2, QStringLiteral("'Viewer'"), QStringLiteral("'2.0'"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES (1, 'Office', NULL), "
+                               "(2, 'Viewer', '2.0')"));
     frm_List_Application& w = open();
     w.Mnu_ViewUpdate->trigger();
     EXPECT_EQ(w.ApplicationName, QStringLiteral("Viewer"));

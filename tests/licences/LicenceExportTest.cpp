@@ -45,11 +45,9 @@ protected:
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET User_Code = 1 WHERE MainKey = 1"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1, Remove_Date = '2006/03/31' WHERE MainKey = 4"));
         ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = 'PC-SOUMU-01B' WHERE MainKey = 4"));
-        installed(2, QStringLiteral("'ウイルスバスター2006'"), QStringLiteral("'14.10'"));
-        installed(2, QStringLiteral("'ウイルスバスター2006'"), QStringLiteral("'14.10'"));
-        installed(3, QStringLiteral("'ウイルスバスター2006'"), QStringLiteral("'15.0'"));
-        installed(3, QStringLiteral("''"), QStringLiteral("'1.0'"));
-        installed(3, QStringLiteral("'Tom''s Tool'"));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES "
+                                   "(2, 'ウイルスバスター2006', '14.10'), (2, 'ウイルスバスター2006', '14.10'), "
+                                   "(3, 'ウイルスバスター2006', '15.0'), (3, '', '1.0'), (3, 'Tom''s Tool', NULL)"));
         purchase(1, QStringLiteral("'Microsoft Office Professional Edition 2003'"), 10);
         purchase(2, QStringLiteral("'ウイルスバスター2006'"), 5);
         ledger.exec(QStringLiteral("INSERT INTO tbl_License_Key (Key) VALUES (3)"));
