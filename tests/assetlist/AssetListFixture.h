@@ -43,10 +43,18 @@ protected:
     }
 
     // Writes the keys of a saved view's section.
-    static void writeView(int section, const std::map<QString, QString>& keys)
+    static void writeKeys(int section, const std::map<QString, QString>& keys)
     {
         for (const auto& [key, value] : keys)
             mdl_ini::IniWrite(QString::number(section), key, value);
+    }
+    // The same, each written as "key=value".
+    static void writeView(int section, std::initializer_list<const char*> keyIsValue)
+    {
+        for (const char* entry : keyIsValue) {
+            const QString s = QString::fromUtf8(entry);
+            mdl_ini::IniWrite(QString::number(section), s.section(u'=', 0, 0), s.section(u'=', 1));
+        }
     }
     // The saved view with these shown columns, installed computers, no sort.
     static void writeColumns(int section, const std::vector<int>& columns)
@@ -56,7 +64,7 @@ protected:
                                         {QStringLiteral("MSFlexGrit_SelectNum"), QString::number(columns.size())}};
         for (size_t i = 0; i < columns.size(); ++i)
             keys[QStringLiteral("MSFlexGrit_Select%1").arg(i + 1)] = QString::number(columns[i]);
-        writeView(section, keys);
+        writeKeys(section, keys);
     }
 
     // What the main window's load does with the list: the view, the columns, the query, the fill,
@@ -86,20 +94,6 @@ protected:
         QString out;
         for (int c = 1; c < grid->Cols(); ++c)
             out += back(row, c) == gray() ? u'G' : back(row, c) == white() ? u'W' : back(row, c) == QColor(Qt::yellow) ? u'Y' : u'?';
-        return out;
-    }
-
-    // The numbers of the errors StandardErrorBox showed, in order.
-    std::vector<long> errorBoxes() const
-    {
-        std::vector<long> out;
-        for (const auto& m : dialogs.messages()) {
-            if (m.title != QStringLiteral("警告"))
-                continue;
-            const qsizetype a = m.prompt.indexOf(QStringLiteral("（エラーコード：")) + 8;
-            const qsizetype b = m.prompt.indexOf(QStringLiteral("）"), a);
-            out.push_back(m.prompt.mid(a, b - a).toLong());
-        }
         return out;
     }
 

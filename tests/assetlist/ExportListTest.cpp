@@ -141,7 +141,7 @@ TEST_F(ExportListTest, FailuresPrintTheWindowsErrorBoxAndEndWithStatusOne)
     EXPECT_EQ(r.exitCode, 1);
     g.SectionNumber = 3;
     loadList();
-    ASSERT_EQ(errorBoxes().size(), 1u);
+    ASSERT_EQ(dialogs.errorBoxes().size(), 1u);
     QString shown = dialogs.messages().back().prompt;
     shown = QStringLiteral("警告: ") + shown.replace(QStringLiteral("\r\n"), QStringLiteral(" ")).trimmed();
     EXPECT_TRUE(r.err.contains(shown)) << r.err.toStdString() << "\nwindow: " << shown.toStdString();

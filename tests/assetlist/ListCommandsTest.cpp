@@ -97,7 +97,7 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
     ledger.computer(32767);
     dialogs.clear();
     ListCommands::Mnu_AddNew(*list);
-    EXPECT_EQ(errorBoxes(), std::vector<long>{6});
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{6});
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("1")), 4);
 }
 
@@ -188,7 +188,7 @@ TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheR
     ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (4, 'Editor')"));
     writeColumns(0, {8, 75});
     writeColumns(1, {8, 75});
-    writeView(1, {{QStringLiteral("OptDel"), QStringLiteral("1")}});
+    writeView(1, {"OptDel=1"});
     ASSERT_TRUE(loadList());
     select(4);
     const QString stored = QStringLiteral("SELECT Deleted_Flug, Remove_Date FROM tbl_Computer_List WHERE MainKey = 4");

@@ -49,12 +49,12 @@ TEST_F(ListQuery, OptDelChoosesInstalledRetiredOrBoth)
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{"1", "3"}));
 
-    writeView(0, {{"OptDel", "1"}});
+    writeView(0, {"OptDel=1"});
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{"2", "4"}));
 
     // Any other value lists both; computer 0, whose flag is Null, is read and skipped.
-    writeView(0, {{"OptDel", "2"}});
+    writeView(0, {"OptDel=2"});
     ASSERT_TRUE(loadList());
     EXPECT_EQ(listedKeys(), (QStringList{"1", "2", "3", "4"}));
     EXPECT_EQ(g.ListRowCount, 4);
@@ -69,11 +69,7 @@ TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
     ledger.computer(2, 0, 0, "Computer_Name = 'PC-B'", "Location_Code = 1");
     ledger.computer(3, 0, 0, "Computer_Name = 'PC-C'", "Location_Code = 2");
     writeColumns(0, {1, 8});
-    writeView(0, {{"SelectNumber", "2"},
-                  {"KeyName0", "Location_Name"},
-                  {"KeyASCDESC0", "ASC"},
-                  {"KeyName1", "Computer_Name"},
-                  {"KeyASCDESC1", "DESC"}});
+    writeView(0, {"SelectNumber=2", "KeyName0=Location_Name", "KeyASCDESC0=ASC", "KeyName1=Computer_Name", "KeyASCDESC1=DESC"});
     ASSERT_TRUE(loadList());
     // 支社 sorts before 本社 in the engine's text order
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "3", "支社", "PC-C"}));
@@ -82,10 +78,10 @@ TEST_F(ListQuery, SortKeysOrderTheListAndAnUnknownKeyFailsAtTheFill)
 
     // a name the engine does not know fails when the fill opens the statement; the grid is
     // left as it stood
-    writeView(0, {{"KeyName1", "Computer_Nmae"}});
+    writeView(0, {"KeyName1=Computer_Nmae"});
     LoadView();
     EXPECT_EQ(list->fnc_View_PClist(), ui::FillResult::Failed);
-    EXPECT_EQ(errorBoxes().size(), 1u);
+    EXPECT_EQ(dialogs.errorBoxes().size(), 1u);
     EXPECT_TRUE(grid->Visible());
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "3", "支社", "PC-C"}));
 }

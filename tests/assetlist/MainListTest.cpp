@@ -30,9 +30,7 @@ protected:
 
         g.SectionNumber = 2;
         writeColumns(2, {8, 4, 10, 26, 28, 30, 31, 39, 45, 65, 70});
-        writeView(2, {{QStringLiteral("SelectNumber"), QStringLiteral("1")},
-                      {QStringLiteral("KeyName0"), QStringLiteral("Computer_Name")},
-                      {QStringLiteral("KeyASCDESC0"), QStringLiteral("ASC")}});
+        writeView(2, {"SelectNumber=1", "KeyName0=Computer_Name", "KeyASCDESC0=ASC"});
     }
 
     // The alignments of a row's cells from column 1 on: L left, R right, C centre (all at the bottom).
@@ -176,8 +174,7 @@ TEST_F(MainListTest, ClickSelectsAndPaintsOverTheRetiredGray)
 TEST_F(MainListTest, MissingPlacesShowTheKeyColumn)
 {
     ledger.computer(4, 0, 0, "Computer_Name = 'PC-X'");
-    writeView(0,
-              {{QStringLiteral("MSFlexGrit_SelectNum"), QStringLiteral("3")}, {QStringLiteral("MSFlexGrit_Select1"), QStringLiteral("8")}});
+    writeView(0, {"MSFlexGrit_SelectNum=3", "MSFlexGrit_Select1=8"});
     ASSERT_TRUE(loadList());
     EXPECT_EQ(rowTexts(0), (QStringList{"", " ", "コンピュータ名", " ", " "}));
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "4", "PC-X", "4", "4"}));
@@ -217,7 +214,7 @@ TEST_F(MainListTest, TheRowAfter2560FailsAndLeavesTheGridHidden)
     manyComputers(2561, 2561);
     gSetSQLVal();
     EXPECT_EQ(list->fnc_View_PClist(), ui::FillResult::Failed);
-    EXPECT_EQ(errorBoxes(), std::vector<long>{9});
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{9});
     EXPECT_FALSE(grid->isVisible());
     // what was filled is kept; the row count and the ready flag are those of the last fill
     EXPECT_EQ(grid->Rows(), 2562);
@@ -234,7 +231,7 @@ TEST_F(MainListTest, AnUnknownFieldFailsWhereItIsFirstRead)
     writeColumns(0, {8, 77, 9});
     list->ListReady = true;
     EXPECT_FALSE(loadList());
-    EXPECT_EQ(errorBoxes(), std::vector<long>{3265});
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{3265});
     EXPECT_FALSE(grid->Visible());
     // the headings were all written, and row 1 up to the unknown column
     EXPECT_EQ(rowTexts(0), (QStringList{"", " ", "コンピュータ名", "", "ワークグループ"}));

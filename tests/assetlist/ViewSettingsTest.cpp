@@ -48,16 +48,9 @@ TEST_F(ViewSettings, NoFileGivesTheEmptyViewAndKeepsTheDirections)
 
 TEST_F(ViewSettings, ReadsTheSectionOfTheCurrentView)
 {
-    writeView(5, {{"OptDel", "1"},
-                  {"SelectNumber", "2"},
-                  {"KeyName0", "Location_Name"},
-                  {"KeyCaption0", "設置場所"},
-                  {"KeyASCDESC0", "ASC"},
-                  {"KeyName1", "Computer_Name"},
-                  {"KeyCaption1", "コンピュータ名"},
-                  {"MSFlexGrit_SelectNum", "3"},
-                  {"MSFlexGrit_Select1", "8"},
-                  {"MSFlexGrit_Select3", "76"}});
+    writeView(5,
+              {"OptDel=1", "SelectNumber=2", "KeyName0=Location_Name", "KeyCaption0=設置場所", "KeyASCDESC0=ASC", "KeyName1=Computer_Name",
+               "KeyCaption1=コンピュータ名", "MSFlexGrit_SelectNum=3", "MSFlexGrit_Select1=8", "MSFlexGrit_Select3=76"});
     writeColumns(0, {1, 2, 3, 4, 5}); // another view's section is not read
     g.SectionNumber = 5;
     mdl_ini::LoadViewSettings();
@@ -74,13 +67,13 @@ TEST_F(ViewSettings, ReadsTheSectionOfTheCurrentView)
 
 TEST_F(ViewSettings, BadNumbersAndTooManyColumnsGoToTheCaller)
 {
-    writeView(0, {{"OptDel", "すべて"}});
+    writeView(0, {"OptDel=すべて"});
     EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::TypeMismatch);
-    writeView(0, {{"OptDel", "0"}, {"MSFlexGrit_Select2", "x"}, {"MSFlexGrit_SelectNum", "2"}});
+    writeView(0, {"OptDel=0", "MSFlexGrit_Select2=x", "MSFlexGrit_SelectNum=2"});
     EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::TypeMismatch);
 
     // SelectedColumns ends at 256: the 257th place runs off it, after the 256th was loaded
-    writeView(0, {{"MSFlexGrit_SelectNum", "300"}, {"MSFlexGrit_Select2", "9"}, {"MSFlexGrit_Select256", "12"}});
+    writeView(0, {"MSFlexGrit_SelectNum=300", "MSFlexGrit_Select2=9", "MSFlexGrit_Select256=12"});
     EXPECT_EQ(ErrorOf([] { mdl_ini::LoadViewSettings(); }), vb::Err::SubscriptOutOfRange);
     EXPECT_EQ(g.SelectedColumnCount, 300);
     EXPECT_EQ(g.SelectedColumns[2], 9);

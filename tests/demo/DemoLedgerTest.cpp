@@ -10,14 +10,6 @@
 
 namespace {
 
-QStringList dump(const QString& ledger)
-{
-    QStringList rows;
-    for (const QString& table : LedgerRows(ledger, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")))
-        rows << table << LedgerRows(ledger, QStringLiteral("SELECT * FROM \"%1\" ORDER BY rowid").arg(table));
-    return rows;
-}
-
 // The data lines of an export: every line but the heading.
 int exportedRows(const QStringList& args, const QString& out)
 {
@@ -46,7 +38,7 @@ TEST(DemoLedger, WritesACheckedLedgerTheSameOnEveryRunWithEveryListFilled)
         << first.out[0].toStdString();
     EXPECT_TRUE(first.out[0].endsWith(QStringLiteral("DB.ini with 3 views written beside it")));
     ASSERT_EQ(Admin({QStringLiteral("demo-ledger"), again}).exitCode, 0);
-    EXPECT_EQ(dump(ledger), dump(again));
+    EXPECT_EQ(LedgerDump(ledger), LedgerDump(again));
     EXPECT_EQ(dir.read(QStringLiteral("two/DB.ini")), QByteArray("[Main]\r\nSectionNumber=4\r\n"));
     EXPECT_FALSE(QFileInfo::exists(dir.file(QStringLiteral("one/pcdb.mdb-journal"))));
     EXPECT_EQ(QDir(dir.file(QStringLiteral("one"))).entryList(QDir::Files),

@@ -1,18 +1,8 @@
 #pragma once
 
-#include "foundation/Mdl_Access_mdb.h"
-#include "foundation/Mdl_gData.h"
-#include "platform/app/App.h"
+#include "support/WindowTest.h"
 
-#include "support/ScriptedDialogs.h"
-#include "support/TempLedger.h"
-
-#include <QStringList>
-
-#include "support/QtPrinters.h"
-
-#include <gtest/gtest.h>
-
+#include <initializer_list>
 #include <ostream>
 #include <utility>
 #include <vector>
@@ -21,6 +11,22 @@ inline QString Inventory(const QString& name) { return TestDataPath(QStringLiter
 
 // Field and expected stored text, "NULL" for Null.
 using FieldValues = std::vector<std::pair<QString, QString>>;
+
+// The pairs written as "Field=text".
+inline FieldValues Fields(std::initializer_list<const char*> fieldIsText)
+{
+    FieldValues out;
+    for (const char* entry : fieldIsText) {
+        const QString s = QString::fromUtf8(entry);
+        out.push_back({s.section(QLatin1Char('='), 0, 0), s.section(QLatin1Char('='), 1)});
+    }
+    return out;
+}
+inline FieldValues operator+(FieldValues a, const FieldValues& b)
+{
+    a.insert(a.end(), b.begin(), b.end());
+    return a;
+}
 
 // Compares the fields of one computer's row with a message per field.
 inline void ExpectRow(TempLedger& ledger, const QString& table, int key, const FieldValues& expected)
@@ -38,22 +44,7 @@ inline void ExpectRow(TempLedger& ledger, const QString& table, int key, const F
 }
 
 // A fresh ledger beside a program folder of its own, connected as the program connects it.
-class IntakeFixture : public ::testing::Test {
+class IntakeFixture : public WindowTest {
 protected:
-    void SetUp() override
-    {
-        Mdl_gData::Reset();
-        app::SetPath(ledger.folder());
-        ASSERT_TRUE(Mdl_Access_mdb::ConnectDatabase());
-    }
-    void TearDown() override
-    {
-        Mdl_Access_mdb::DisconnectDatabase();
-        Mdl_gData::Reset();
-        app::SetPath(QString());
-    }
     QStringList staging() { return ledger.rows(QStringLiteral("SELECT * FROM tbl_ReadCsv ORDER BY rowid")); }
-
-    TempLedger ledger;
-    ScriptedDialogs dialogs;
 };

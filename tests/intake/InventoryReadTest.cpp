@@ -14,81 +14,26 @@ using Outcome = InventoryFileResult::Outcome;
 // file's capacity shifting its unit, and the trace cache's unit in its own field.
 FieldValues JaPc01Pclist()
 {
-    const QString t = QStringLiteral("2005/12/04 10：30：15");
-    FieldValues v = {
-        {"Computer_Name", "PC-SOUMU-01"},
-        {"Workgroup", "WORKGROUP"},
-        {"IPAddress", "192.168.0.10"},
-        {"IPAddress_16num", "C0A8000A"},
-        {"Update", t},
-        {"MacAddress", "00：0C：29：3A：5B：7C"},
-        {"Memory_Full", "0"},
-        {"Memory_Full_unit", "MB"},
-        {"Memory_Used", "301284"},
-        {"Memory_Used_unit", "KB"},
-        {"SysHD_Full", "40015"},
-        {"SysHD_Full_unit", "MB"},
-        {"SysHD_Used", "12873"},
-        {"SysHD_Used_unit", "MB"},
-        {"Memory_Free", "222478"},
-        {"Memory_Free_unit", "KB"},
-        {"Pagefile_Full", "1"},
-        {"Pagefile_Full_unit", "281"},
-        {"Pagefile_Used", "236428"},
-        {"Pagefile_Used_unit", "KB"},
-        {"Pagefile_Free", "1044612"},
-        {"Pagefile_Free_unit", "KB"},
-        {"SysHD_Driveletter", "C："},
-        {"SysHD_Free", "27142"},
-        {"SysHD_Free_unit", "MB"},
-        {"Operating_System", "Microsoft Windows XP Professional"},
-        {"ProductID", "55274-640-1234567-23456"},
-        {"OEM_Manufacturer", "NEC"},
-        {"OEM_Model", "PC-MY26XEZ7"},
-        {"IE_Version", "6.0.2900.2180"},
-        {"IE_SP", "；SP2；"},
-        {"Resolution", "1024×768"},
-        {"CPU_Name", "Intel Pentium 4"},
-        {"CPU_Clock", "3"},
-        {"CPU_ID", "GenuineIntel"},
-        {"CPU_Unit", "1"},
-        {"CPU_NameString", "Intel(R) Pentium(R) 4 CPU 2.60GHz"},
-        {"CPU_Type", "0"},
-        {"CPU_Family", "15"},
-        {"CPU_Model", "2"},
-        {"CPU_Stepping", "9"},
-        {"CPU_L1_Instruction_Cache", "0"},
-        {"CPU_L1_Instruction_Cache_unit", "KB"},
-        {"CPU_L1_Data_Cache", "8"},
-        {"CPU_L1_Data_Cache_unit", "KB"},
-        {"CPU_L2_Cache", "512"},
-        {"CPU_L2_Cache_unit", "KB"},
-        {"CPU_L3_Cache", "0"},
-        {"CPU_L3_Cache_unit", ""},
-        {"CPU_L1_Trace_Cache", "12"},
-        {"CPU_L1_Trace_Cache_unit", "Kμops"},
-        {"CPU_SerialNumber", ""},
-        {"UserName", "yamada"},
-        {"HostsName", "pc-soumu-01"},
-        {"DomeinName", ""},
-        {"PC_Explanation", "総務部 共用機"},
-        {"ProviderName", "Microsoft Windows Network"},
-        {"AdapterName", "Intel(R) PRO/100 VE Network Connection"},
-        {"SubnetMask", "255.255.255.0"},
-        {"Gateway", "192.168.0.1"},
-        {"DHCPServer", "192.168.0.1"},
-        {"PrimaryWINS", "192.168.0.2"},
-        {"SecondaryWINS", "169.254.0.9"},
-        {"PrimaryDNS", "192.168.0.1"},
-        {"SecondaryDNS", "192.168.0.3"},
-        {"Internet_Connection", "1"},
-        {"Modem_Connection", "0"},
-        {"LAN_Connection", "1"},
-        {"PROXY_Connection", "0"},
-        {"OfflineMode", "0"},
-        {"RASInstalled", "1"},
-        {"Start_Page", "http：//www.example.co.jp/"},
-    };
+    FieldValues v =
+        Fields({"Computer_Name=PC-SOUMU-01", "Workgroup=WORKGROUP", "IPAddress=192.168.0.10", "IPAddress_16num=C0A8000A",
+                "Update=2005/12/04 10：30：15", "MacAddress=00：0C：29：3A：5B：7C"})
+        + Fields({"Memory_Full=0", "Memory_Full_unit=MB", "Memory_Used=301284", "Memory_Used_unit=KB", "SysHD_Full=40015",
+                  "SysHD_Full_unit=MB", "SysHD_Used=12873", "SysHD_Used_unit=MB", "Memory_Free=222478", "Memory_Free_unit=KB",
+                  "Pagefile_Full=1", "Pagefile_Full_unit=281", "Pagefile_Used=236428", "Pagefile_Used_unit=KB", "Pagefile_Free=1044612",
+                  "Pagefile_Free_unit=KB", "SysHD_Driveletter=C：", "SysHD_Free=27142", "SysHD_Free_unit=MB"})
+        + Fields({"Operating_System=Microsoft Windows XP Professional", "ProductID=55274-640-1234567-23456", "OEM_Manufacturer=NEC",
+                  "OEM_Model=PC-MY26XEZ7", "IE_Version=6.0.2900.2180", "IE_SP=；SP2；", "Resolution=1024×768"})
+        + Fields({"CPU_Name=Intel Pentium 4", "CPU_Clock=3", "CPU_ID=GenuineIntel", "CPU_Unit=1",
+                  "CPU_NameString=Intel(R) Pentium(R) 4 CPU 2.60GHz", "CPU_Type=0", "CPU_Family=15", "CPU_Model=2", "CPU_Stepping=9"})
+        + Fields({"CPU_L1_Instruction_Cache=0", "CPU_L1_Instruction_Cache_unit=KB", "CPU_L1_Data_Cache=8", "CPU_L1_Data_Cache_unit=KB",
+                  "CPU_L2_Cache=512", "CPU_L2_Cache_unit=KB", "CPU_L3_Cache=0", "CPU_L3_Cache_unit=", "CPU_L1_Trace_Cache=12",
+                  "CPU_L1_Trace_Cache_unit=Kμops", "CPU_SerialNumber="})
+        + Fields({"UserName=yamada", "HostsName=pc-soumu-01", "DomeinName=", "PC_Explanation=総務部 共用機"})
+        + Fields({"ProviderName=Microsoft Windows Network", "AdapterName=Intel(R) PRO/100 VE Network Connection",
+                  "SubnetMask=255.255.255.0", "Gateway=192.168.0.1", "DHCPServer=192.168.0.1", "PrimaryWINS=192.168.0.2",
+                  "SecondaryWINS=169.254.0.9", "PrimaryDNS=192.168.0.1", "SecondaryDNS=192.168.0.3", "Internet_Connection=1",
+                  "Modem_Connection=0", "LAN_Connection=1", "PROXY_Connection=0", "OfflineMode=0", "RASInstalled=1",
+                  "Start_Page=http：//www.example.co.jp/"});
     // "TRUE" and "1" are set; "True", "yes", FALSE and a missing record are not; MCA has its own record
     const QStringList set = {"FPU", "VME", "DE",   "PSE", "TSC",  "MSR", "MCE", "CX8",  "APIC",    "SEP",   "MTRR", "PGE", "CMOV",
                              "PAT", "MMX", "FXSR", "SSE", "SSE2", "HTT", "TM",  "SSE3", "MONITOR", "DSCPL", "TM2",  "CID"};
@@ -101,15 +46,8 @@ FieldValues JaPc01Pclist()
 
 FieldValues JaPc01ComputerList()
 {
-    return {{"Location_Code", "0"},
-            {"User_Code", "0"},
-            {"Manufacturer_Code", "0"},
-            {"Model_Code", "0"},
-            {"Asset_Code", "0"},
-            {"Type_Number", "PC-MY26XEZ7"},
-            {"Sereals_Number", "5X0123456"},
-            {"Update", "2005/12/04 10：30：15"},
-            {"Deleted_Flug", "0"}};
+    return Fields({"Location_Code=0", "User_Code=0", "Manufacturer_Code=0", "Model_Code=0", "Asset_Code=0", "Type_Number=PC-MY26XEZ7",
+                   "Sereals_Number=5X0123456", "Update=2005/12/04 10：30：15", "Deleted_Flug=0"});
 }
 
 class InventoryRead : public IntakeFixture {
@@ -175,30 +113,15 @@ TEST_F(InventoryRead, TheEnglishReaderTakesTheEnglishKeywordsAndTheWindowsDate)
     const auto results = read({QStringLiteral("en_pc02.csv")}, InventoryLanguage::English);
     ASSERT_EQ(results.size(), 1u);
     EXPECT_EQ(results[0].mainKey, 1);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1,
-              {{"Computer_Name", "SALES-PC07"},
-               {"Workgroup", "SALES"},
-               {"IPAddress_16num", "0A01146B"},
-               {"Update", "2006/01/15 09：05：00"},
-               {"MacAddress", "00-06-5B-12-34-56"},
-               {"Memory_Full", "261616"},
-               {"Memory_Free_unit", "KB"},
-               {"Pagefile_Used", "201844"},
-               {"SysHD_Free", "17147"},
-               {"IE_SP", "；SP1；"},
-               {"Resolution", "1280x1024"},
-               {"CPU_Clock", "2794"},
-               {"CPU_L3_Cache", "2"},
-               {"CPU_L3_Cache_unit", "MB"},
-               {"CPU_L1_Trace_Cache_unit", "Kuops"},
-               {"CPU_MCA", "1"},
-               {"DomeinName", "corp.example.com"},
-               {"Gateway", "10.1.0.1"},
-               {"Internet_Connection", "1"},
-               {"PROXY_Connection", "1"},
-               {"RASInstalled", "0"}});
+    ExpectRow(
+        ledger, QStringLiteral("tbl_Pclist"), 1,
+        Fields({"Computer_Name=SALES-PC07", "Workgroup=SALES", "IPAddress_16num=0A01146B", "Update=2006/01/15 09：05：00",
+                "MacAddress=00-06-5B-12-34-56", "Memory_Full=261616", "Memory_Free_unit=KB", "Pagefile_Used=201844", "SysHD_Free=17147",
+                "IE_SP=；SP1；", "Resolution=1280x1024"})
+            + Fields({"CPU_Clock=2794", "CPU_L3_Cache=2", "CPU_L3_Cache_unit=MB", "CPU_L1_Trace_Cache_unit=Kuops", "CPU_MCA=1",
+                      "DomeinName=corp.example.com", "Gateway=10.1.0.1", "Internet_Connection=1", "PROXY_Connection=1", "RASInstalled=0"}));
     ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1,
-              {{"Update", "2006/01/15 09：05：00"}, {"Type_Number", "OptiPlex GX270"}, {"Sereals_Number", "7DK2Q1J"}});
+              Fields({"Update=2006/01/15 09：05：00", "Type_Number=OptiPlex GX270", "Sereals_Number=7DK2Q1J"}));
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 1")), 2);
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT PrinterPorts_Name FROM tbl_Printer_Management")),
               QStringLiteral("￥￥print01￥sales-lj"));
@@ -222,35 +145,12 @@ TEST_F(InventoryRead, AnEnglishFileReadInJapaneseFillsOnlyTheLanguageFreeRows)
     ASSERT_EQ(expected.size(), 50u);
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, expected);
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1,
-              {{"SysHD_Driveletter", "C："},
-               {"Operating_System", "Microsoft Windows 2000 Professional"},
-               {"ProductID", "51873-OEM-0012345-67890"},
-               {"OEM_Manufacturer", "Dell Inc."},
-               {"OEM_Model", "OptiPlex GX270"},
-               {"IE_Version", "6.0.2800.1106"},
-               {"CPU_Unit", "2"},
-               {"CPU_MCA", "1"},
-               {"PrimaryDNS", "10.1.0.2"},
-               {"SecondaryWINS", "10.1.0.7"},
-               {"Start_Page", "http：//intranet.example.com/"}});
-    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, {{"Update", ""}, {"Type_Number", "OptiPlex GX270"}});
+              Fields({"SysHD_Driveletter=C：", "Operating_System=Microsoft Windows 2000 Professional", "ProductID=51873-OEM-0012345-67890",
+                      "OEM_Manufacturer=Dell Inc.", "OEM_Model=OptiPlex GX270", "IE_Version=6.0.2800.1106", "CPU_Unit=2", "CPU_MCA=1",
+                      "PrimaryDNS=10.1.0.2", "SecondaryWINS=10.1.0.7", "Start_Page=http：//intranet.example.com/"}));
+    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, Fields({"Update=", "Type_Number=OptiPlex GX270"}));
     // the row-wise sections do not depend on the language
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_Device_Management"), QStringLiteral("\"Key\" = 1")), 2);
-}
-
-TEST_F(InventoryRead, TheSameFileTwiceMakesTwoComputersWithConsecutiveKeys)
-{
-    const auto first = read({QStringLiteral("ja_pc01.csv"), QStringLiteral("ja_pc01.csv")});
-    const auto second = read({QStringLiteral("ja_pc01.csv")});
-    EXPECT_EQ(first[0].mainKey, 1);
-    EXPECT_EQ(first[1].mainKey, 2);
-    EXPECT_EQ(second[0].mainKey, 3);
-    EXPECT_EQ(Mdl_gData::g.LastReadMainKey, 3);
-    for (int key = 1; key <= 3; ++key) {
-        ExpectRow(ledger, QStringLiteral("tbl_Pclist"), key, JaPc01Pclist());
-        EXPECT_EQ(applications(key).size(), 5);
-    }
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Environmental")), 9);
 }
 
 TEST_F(InventoryRead, RefusedFilesAreSkippedAndAnUnreadableOneReusesTheStagedFile)
@@ -273,15 +173,10 @@ TEST_F(InventoryRead, RefusedFilesAreSkippedAndAnUnreadableOneReusesTheStagedFil
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_Pclist"), QStringLiteral("Computer_Name LIKE 'PC-KEIRI%'")), 0);
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2, JaPc01Pclist());
     EXPECT_EQ(applications(2).size(), 5);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 3,
-              {{"Computer_Name", ""},
-               {"IPAddress_16num", ""},
-               {"Memory_Full", "0"},
-               {"CPU_L2_Cache", "0"},
-               {"CPU_FPU", "0"},
-               {"Internet_Connection", "0"},
-               {"Update", ""}});
-    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 3, {{"Location_Code", "0"}, {"Asset_Code", "0"}, {"Type_Number", ""}});
+    ExpectRow(
+        ledger, QStringLiteral("tbl_Pclist"), 3,
+        Fields({"Computer_Name=", "IPAddress_16num=", "Memory_Full=0", "CPU_L2_Cache=0", "CPU_FPU=0", "Internet_Connection=0", "Update="}));
+    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 3, Fields({"Location_Code=0", "Asset_Code=0", "Type_Number="}));
     EXPECT_EQ(applications(3).size(), 0);
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 0);
 }
@@ -352,7 +247,7 @@ TEST_F(InventoryRead, ARefusedValueDropsAloneWhenACheckRefusesIt)
     ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, JaPc01ComputerList());
     // another workgroup passes, and the computer of the next file is written whole
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2,
-              {{"Computer_Name", ""}, {"Workgroup", ""}, {"Operating_System", "Microsoft Windows 2000 Professional"}});
+              Fields({"Computer_Name=", "Workgroup=", "Operating_System=Microsoft Windows 2000 Professional"}));
 }
 
 // The read writes a computer with one UPDATE a table, and staging once a batch, where that
@@ -402,7 +297,7 @@ TEST_F(InventoryRead, PastTheLastKeyTheKeyStaysWhatItWas)
     EXPECT_TRUE(results[1].keyOverflow);
     EXPECT_EQ(results[1].mainKey, 32767);
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List")), 3);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 32767, {{"Computer_Name", "PC-SOUMU-01"}});
+    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 32767, Fields({"Computer_Name=PC-SOUMU-01"}));
     EXPECT_EQ(applications(32767).size(), 5);
 }
 

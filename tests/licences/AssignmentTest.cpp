@@ -41,13 +41,6 @@ protected:
             out << list.item(i)->text() + QStringLiteral(" #") + list.item(i)->data(Qt::UserRole).toString();
         return out;
     }
-    static void choose(ui::DropDownCombo& combo, int index)
-    {
-        combo.showPopup();
-        combo.hidePopup();
-        combo.setCurrentIndex(index);
-        Q_EMIT combo.activated(index);
-    }
     QStringList assignments() { return ledger.rows(QStringLiteral("SELECT * FROM tbl_License_Dat ORDER BY Key")); }
     static std::array<bool, 3> menus(const frm_Edit_License& w)
     {
@@ -77,9 +70,7 @@ TEST_F(Assignment, TheListsPadByBytesAndByCharactersAndALongComputerNameStopsIts
     w.List_ComuputerName->clear();
     w.View_ComputerNameList();
     EXPECT_EQ(items(*w.List_ComuputerName), QStringList{"PC-EIGYO-02      別館 佐藤 #2"});
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
-    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("（エラーコード：5）"))) << dialogs.messages()[0].prompt.toStdString();
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{5});
 }
 
 TEST_F(Assignment, AnAssignmentIsAddedChangedAndDeletedWithTheCommentCutTo50ThenTo49)
@@ -95,7 +86,7 @@ TEST_F(Assignment, AnAssignmentIsAddedChangedAndDeletedWithTheCommentCutTo50Then
 
     const QString comment = QString(45, u'あ') + QStringLiteral("12345");
     w.tbx_ProductID->setText(QStringLiteral("55274-640"));
-    choose(*w.cmb_Payment_Type, 1);
+    pick(*w.cmb_Payment_Type, 1);
     w.cmb_AssetType->setEditText(QStringLiteral("ボリューム")); // a free text is stored as typed
     w.tbx_Comment->setText(comment + QStringLiteral("X"));
     w.Mnu_AddRecord->trigger();
@@ -168,22 +159,22 @@ TEST_F(Assignment, TheGridShowsLiveChainsOnlyGraysRetiredAndDeletedAndFiltersByA
     EXPECT_EQ(grid.CellAlignmentAt(2, 2), ui::flexAlignLeftBottom);
 
     // the application filter's list: " " first, then every line, a blank one too
-    choose(*w.cmb_Application, 2);
+    pick(*w.cmb_Application, 2);
     EXPECT_EQ(w.cmb_Application->count(), 4);
     EXPECT_EQ(w.cmb_Application->itemText(1), QString());
     EXPECT_EQ(w.tbx_Application->text(), QStringLiteral("1"));
     EXPECT_EQ(cells(grid, 3).size(), 2);
-    choose(*w.cmb_Location, 1);
+    pick(*w.cmb_Location, 1);
     EXPECT_EQ(w.tbx_Location->text(), QStringLiteral("0"));
-    choose(*w.cmb_Location, 2);
+    pick(*w.cmb_Location, 2);
     EXPECT_EQ(cells(grid, 3).size(), 2) << "both Office computers stand on 本館1F";
     // no such assignment: the grid is emptied, and the filters stay through a refresh
-    choose(*w.cmb_Location, 3);
+    pick(*w.cmb_Location, 3);
     EXPECT_EQ(grid.Rows(), 0);
     w.View_MSFlexGrid_License_assignment_Update->trigger();
     EXPECT_EQ(grid.Rows(), 0);
-    choose(*w.cmb_Application, 0);
-    choose(*w.cmb_Location, 0);
+    pick(*w.cmb_Application, 0);
+    pick(*w.cmb_Location, 0);
     EXPECT_EQ(cells(grid, 3).size(), 3);
 }
 

@@ -26,15 +26,6 @@ protected:
         rows.sort();
         return rows;
     }
-    void chooseLocation(frm_List_Application& w, const QString& name)
-    {
-        w.cmb_Location->showPopup();
-        w.cmb_Location->hidePopup();
-        const int index = w.cmb_Location->findText(name);
-        ASSERT_GE(index, 0) << name.toStdString();
-        w.cmb_Location->setCurrentIndex(index);
-        Q_EMIT w.cmb_Location->activated(index);
-    }
     QByteArray exported(frm_List_Application& w)
     {
         dialogs.answerFile(out.file(QStringLiteral("apps")));
@@ -53,14 +44,10 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
     computer(1, QStringLiteral("PC-A"), 1);
     computer(2, QStringLiteral("PC-B"), 2, 1);
     computer(3, QStringLiteral("PC-C"), 1, 0, 1);
-    installed(1, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(1, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(2, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(2, QStringLiteral("'Office'"), QStringLiteral("'12.0'"));
-    installed(3, QStringLiteral("'Office'"), QStringLiteral("'11.0'"));
-    installed(3, QStringLiteral("'OnlyOnRetired'"));
-    installed(1, QStringLiteral("''"));
-    installed(2, QStringLiteral("'Tom''s Tool'"));
+    ledger.exec(
+        QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES (1, 'Office', '11.0'), "
+                       "(1, 'Office', '11.0'), (2, 'Office', '11.0'), (2, 'Office', '12.0'), (3, 'Office', '11.0'), "
+                       "(3, 'OnlyOnRetired', NULL), (1, '', NULL), (2, 'Tom''s Tool', NULL)"));
 
     frm_List_Application& w = open();
     EXPECT_EQ(w.windowTitle(), QStringLiteral("アプリケーション一覧"));
@@ -78,10 +65,10 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
     EXPECT_EQ(w.MSFlexGrid_User->CellBackColorAt(2, 2), ui::QBColor(15));
 
     // a location narrows the list; one without such a computer leaves it standing
-    chooseLocation(w, QStringLiteral("別館"));
+    pick(*w.cmb_Location, QStringLiteral("別館"));
     EXPECT_EQ(w.tbx_Location->text(), QStringLiteral("2"));
     EXPECT_EQ(sorted(cells(*w.MSFlexGrid_User, 1)), (QStringList{"PC-B|別館|||佐藤|11.0", "PC-B|別館|||佐藤|12.0"}));
-    chooseLocation(w, QStringLiteral("倉庫"));
+    pick(*w.cmb_Location, QStringLiteral("倉庫"));
     EXPECT_EQ(cells(*w.MSFlexGrid_User, 1).size(), 2);
     const QByteArray file = exported(w);
     EXPECT_TRUE(file.startsWith("Office\r\n")) << "the name line first, as it stands";
@@ -121,8 +108,8 @@ TEST_F(Census, TheRefreshAfterLoadActsOnTheLastRowAndAClickOnTheHeadingDoesNothi
 {
     computer(1, QStringLiteral("PC-A"));
     computer(2, QStringLiteral("PC-B"));
-    installed(1, QStringLiteral("'Office'"));
-    installed(2, QStringLiteral("'Viewer'"), QStringLiteral("'2.0'"));
+    ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES (1, 'Office', NULL), "
+                               "(2, 'Viewer', '2.0')"));
     frm_List_Application& w = open();
     w.Mnu_ViewUpdate->trigger();
     EXPECT_EQ(w.ApplicationName, QStringLiteral("Viewer"));

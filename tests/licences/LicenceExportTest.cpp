@@ -45,11 +45,9 @@ protected:
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET User_Code = 1 WHERE MainKey = 1"));
         ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Deleted_Flug = 1, Remove_Date = '2006/03/31' WHERE MainKey = 4"));
         ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = 'PC-SOUMU-01B' WHERE MainKey = 4"));
-        installed(2, QStringLiteral("'ウイルスバスター2006'"), QStringLiteral("'14.10'"));
-        installed(2, QStringLiteral("'ウイルスバスター2006'"), QStringLiteral("'14.10'"));
-        installed(3, QStringLiteral("'ウイルスバスター2006'"), QStringLiteral("'15.0'"));
-        installed(3, QStringLiteral("''"), QStringLiteral("'1.0'"));
-        installed(3, QStringLiteral("'Tom''s Tool'"));
+        ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES "
+                                   "(2, 'ウイルスバスター2006', '14.10'), (2, 'ウイルスバスター2006', '14.10'), "
+                                   "(3, 'ウイルスバスター2006', '15.0'), (3, '', '1.0'), (3, 'Tom''s Tool', NULL)"));
         purchase(1, QStringLiteral("'Microsoft Office Professional Edition 2003'"), 10);
         purchase(2, QStringLiteral("'ウイルスバスター2006'"), 5);
         ledger.exec(QStringLiteral("INSERT INTO tbl_License_Key (Key) VALUES (3)"));
@@ -80,26 +78,24 @@ const QString kAntivirus = QStringLiteral("ウイルスバスター2006");
 TEST_F(LicenceExport, EachListIsWrittenByteForByteAsItsWindowWritesIt)
 {
     fillLedger();
-    AdminRun r = exportList({QStringLiteral("licences")}, QStringLiteral("licences"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("licences")), expected("licences.csv"));
-    r = exportList({QStringLiteral("census")}, QStringLiteral("census.txt"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("census.txt")), expected("census.csv"));
-    r = exportList({QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus}, QStringLiteral("all"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("all")), expected("census_computers.csv"));
-    r = exportList({QStringLiteral("census-computers"), QStringLiteral("--location"), QStringLiteral("2"), QStringLiteral("--application"),
-                    kAntivirus},
-                   QStringLiteral("loc2"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("loc2")), expected("census_computers_loc2.csv"));
     // a location without such a computer leaves the list of all locations, as in the window
-    r = exportList({QStringLiteral("census-computers"), QStringLiteral("--application"), kAntivirus, QStringLiteral("--location"),
-                    QStringLiteral("3")},
-                   QStringLiteral("loc3"));
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(written(QStringLiteral("loc3")), expected("census_computers.csv"));
+    const QString app = QStringLiteral("--application"), location = QStringLiteral("--location");
+    const struct {
+        QStringList args;
+        const char* file;
+    } lists[] = {
+        {{QStringLiteral("licences")}, "licences.csv"},
+        {{QStringLiteral("census")}, "census.csv"},
+        {{QStringLiteral("census-computers"), app, kAntivirus}, "census_computers.csv"},
+        {{QStringLiteral("census-computers"), location, QStringLiteral("2"), app, kAntivirus}, "census_computers_loc2.csv"},
+        {{QStringLiteral("census-computers"), app, kAntivirus, location, QStringLiteral("3")}, "census_computers.csv"},
+    };
+    for (const auto& [args, file] : lists) {
+        SCOPED_TRACE(args.join(u' ').toStdString());
+        const AdminRun r = exportList(args, QStringLiteral("by-command"));
+        EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
+        EXPECT_EQ(written(QStringLiteral("by-command")), expected(file));
+    }
 
     // the windows, offscreen, over the same ledger: their exports add ".csv"
     frm_Edit_License::Instance().Show(ui::vbModeless);

@@ -7,7 +7,7 @@
 #include "support/WindowTest.h"
 
 // The windows' fixture with a fixed day (the day an assignment is written) and short helpers that
-// put computers, inventory rows and licences into the ledger in plain SQL.
+// put computers and licences into the ledger in plain SQL.
 class LicencesFixture : public WindowTest {
 protected:
     void SetUp() override
@@ -27,13 +27,6 @@ protected:
         ledger.computer(key, deleted, user, QStringLiteral("Computer_Name = '%1'").arg(name),
                         QStringLiteral("Location_Code = %1").arg(location));
     }
-    // An application row of a computer's inventory; name and version are SQL literals.
-    void installed(int computer, const QString& name, const QString& version = QStringLiteral("NULL"))
-    {
-        ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (Key, Application_Name, Application_Version) VALUES (%1, %2, %3)")
-                        .arg(computer)
-                        .arg(name, version));
-    }
     // A purchased application; the name is an SQL literal.
     void purchase(int key, const QString& name, int units)
     {
@@ -48,15 +41,5 @@ protected:
                         .arg(computer));
         if (!rest.isEmpty())
             ledger.exec(QStringLiteral("UPDATE tbl_License_Dat SET %1 WHERE Key = %2").arg(rest).arg(key));
-    }
-
-    // The fatal report of a run-time error, as the last message box showed it; the end is taken
-    // back so that the fixture does not fail the test for it.
-    QString fatalEnd()
-    {
-        EXPECT_EQ(ended, std::vector<int>{1});
-        ended.clear();
-        const auto boxes = dialogs.messages();
-        return boxes.empty() ? QString() : boxes.back().prompt.section(QLatin1Char('\''), 1, 1);
     }
 };

@@ -41,21 +41,4 @@ protected:
         frm_Edit_Mail::Instance().Show(ui::vbModal);
         return frm_Edit_Mail::Instance();
     }
-    // Opens a combo's list (its drop-down fill) and picks the entry with this text.
-    static void pick(ui::DropDownCombo& combo, const QString& text)
-    {
-        combo.showPopup();
-        combo.hidePopup();
-        const int at = combo.findText(text);
-        ASSERT_GE(at, 0) << text.toStdString();
-        combo.setCurrentIndex(at);
-        Q_EMIT combo.activated(at);
-    }
-    static QStringList items(const QComboBox& combo)
-    {
-        QStringList out;
-        for (int i = 0; i < combo.count(); ++i)
-            out << combo.itemText(i);
-        return out;
-    }
 };

@@ -116,10 +116,7 @@ TEST_F(Masters, NoCodeFollows32767AndAWiderCodeOverflowsWhereItIsRead)
     ledger.exec(QStringLiteral("INSERT INTO tbl_Location VALUES (32767, '倉庫', '', '0')"));
     frm_Edit_Table& w = openTable(QStringLiteral("tbl_Location"), QStringLiteral("設置場所"));
     w.Mnu_Add->trigger();
-    EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
-    ended.clear();
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_TRUE(dialogs.messages()[0].prompt.startsWith(QStringLiteral("実行時エラー '6':")));
+    EXPECT_EQ(fatalEnd(), QStringLiteral("6"));
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT count(*) FROM tbl_Location")), QStringLiteral("2"));
     w.Mue_Close->trigger();
     flushDeletes();
@@ -132,9 +129,7 @@ TEST_F(Masters, NoCodeFollows32767AndAWiderCodeOverflowsWhereItIsRead)
     ledger.exec(QStringLiteral("INSERT INTO tbl_Wide VALUES (40000, '本館', '', '0')"));
     frm_Edit_Table& wide = openTable(QStringLiteral("tbl_Wide"), QStringLiteral("広域"));
     wide.Mnu_Add->trigger();
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
-    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("（エラーコード：6）")));
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{6});
     EXPECT_EQ(cells(*wide.MSFlexGrid_Edit), (QStringList{"1|||0", "40000|本館||0"}));
 }
 

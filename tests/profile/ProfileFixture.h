@@ -69,15 +69,9 @@ protected:
     QStringList record(int key)
     {
         QStringList out;
-        for (const QString& table : {QStringLiteral("tbl_Pclist"), QStringLiteral("tbl_Computer_List")}) {
-            const QStringList names = ledger.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
-            const QStringList values =
-                ledger.value(QStringLiteral("SELECT count(*) FROM %1 WHERE MainKey = %2").arg(table).arg(key)) == u"1"
-                    ? ledger.rows(QStringLiteral("SELECT * FROM %1 WHERE MainKey = %2").arg(table).arg(key)).first().split(u'|')
-                    : QStringList();
-            for (qsizetype c = 0; c < names.size() && c < values.size(); ++c)
-                out << table + u'.' + names[c] + u'=' + values[c];
-        }
+        for (const QString& table : {QStringLiteral("tbl_Pclist"), QStringLiteral("tbl_Computer_List")})
+            for (const QString& field : ledger.fields(table, key))
+                out << table + u'.' + field;
         return out;
     }
     // The entries of b that are not in a.

@@ -123,9 +123,7 @@ TEST_F(ProfileListPages, ANullCategoryFailsTheSecondPassLeavingWhatWasAdded)
     // the Null sorts first: the roots were all added, no child was
     EXPECT_EQ(w.TreeView1->topLevelItemCount(), 3);
     EXPECT_EQ(w.TreeView1->topLevelItem(0)->childCount(), 0);
-    ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
-    EXPECT_TRUE(dialogs.messages()[0].prompt.contains(QStringLiteral("94")));
+    EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{94});
 }
 
 TEST(DeviceIcons, ThirtyPicturesOneForEachClassAndTheSystemDeviceForTheRest)

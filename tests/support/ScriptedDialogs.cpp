@@ -46,6 +46,17 @@ QStringList ScriptedDialogs::messageTexts() const
     return out;
 }
 
+std::vector<long> ScriptedDialogs::errorBoxes() const
+{
+    std::vector<long> out;
+    for (const Call& c : messages()) {
+        const qsizetype a = c.prompt.indexOf(QStringLiteral("（エラーコード：")) + 8;
+        if (c.title == QStringLiteral("警告") && a >= 8)
+            out.push_back(c.prompt.mid(a, c.prompt.indexOf(QStringLiteral("）"), a) - a).toLong());
+    }
+    return out;
+}
+
 int ScriptedDialogs::MessageBox(const QString& prompt, int buttons, const QString& title)
 {
     m_calls.push_back({Call::Message, prompt, title, buttons, {}, {}});

@@ -35,6 +35,8 @@ public:
     std::vector<Call> messages() const;
     // The prompts of all message boxes, in order.
     QStringList messageTexts() const;
+    // The numbers of the errors the error box ("警告") showed, in order.
+    std::vector<long> errorBoxes() const;
     void clear() { m_calls.clear(); }
 
     int MessageBox(const QString& prompt, int buttons, const QString& title) override;

@@ -74,12 +74,32 @@ QStringList LedgerRows(const QString& path, const QString& sql)
     return queryRows(db.get(), sql);
 }
 
+QStringList LedgerDump(const QString& path)
+{
+    QStringList out;
+    for (const QString& table : LedgerRows(path, QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")))
+        for (const QString& row : LedgerRows(path, QStringLiteral("SELECT * FROM \"%1\" ORDER BY rowid").arg(table)))
+            out << table + QLatin1Char(':') + row;
+    return out;
+}
+
 QString TempLedger::value(const QString& sql)
 {
     const QStringList r = rows(sql);
     if (r.isEmpty())
         return {};
     return r.first().section(QLatin1Char('|'), 0, 0);
+}
+
+QStringList TempLedger::fields(const QString& table, int mainKey)
+{
+    const QStringList names = rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
+    const QStringList found = rows(QStringLiteral("SELECT * FROM %1 WHERE MainKey = %2").arg(table).arg(mainKey));
+    QStringList out;
+    const QStringList values = found.size() == 1 ? found.first().split(QLatin1Char('|')) : QStringList();
+    for (qsizetype i = 0; i < values.size(); ++i)
+        out << names.value(i) + QLatin1Char('=') + values[i];
+    return out;
 }
 
 int TempLedger::count(const QString& table, const QString& where)

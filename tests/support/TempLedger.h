@@ -12,6 +12,8 @@
 // Every row of a query on the ledger file at path, opened read-only for the query alone; each row
 // as in TempLedger::rows.
 QStringList LedgerRows(const QString& path, const QString& sql);
+// Every row of every table of that ledger, in insertion order, each as "table:row".
+QStringList LedgerDump(const QString& path);
 
 // A fresh empty ledger (pcdb.mdb) in its own temporary folder, made the way fenwold-admin makes
 // one, with an open connection and plain-SQL helpers for assertions.
@@ -32,6 +34,9 @@ public:
     QStringList rows(const QString& sql);
     // The first value of the first row as text ("NULL" for Null, "" when there is no row).
     QString value(const QString& sql);
+    // A computer's row of tbl_Pclist or tbl_Computer_List as "column=value" entries in column
+    // order; none when it has no row.
+    QStringList fields(const QString& table, int mainKey);
     // The rows of a table that meet an SQLite condition.
     int count(const QString& table, const QString& where = QStringLiteral("1"));
     // A row of a master table with code, name, comment and flag ("1": retired).

@@ -3,6 +3,7 @@
 #include "foundation/Mdl_Access_mdb.h"
 #include "foundation/Mdl_gData.h"
 #include "platform/app/App.h"
+#include "platform/ui/Dispatch.h"
 #include "platform/ui/FlexGrid.h"
 #include "platform/ui/Form.h"
 
@@ -10,6 +11,7 @@
 #include "support/ScriptedDialogs.h"
 #include "support/TempLedger.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QStringList>
 #include <QTest>
@@ -44,11 +46,45 @@ protected:
 
     static void flushDeletes() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
+    // The number in the fatal report of a run-time error, as the last message box showed it; the
+    // end is taken back so that the fixture does not fail the test for it.
+    QString fatalEnd()
+    {
+        EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
+        ended.clear();
+        const auto boxes = dialogs.messages();
+        return boxes.empty() ? QString() : boxes.back().prompt.section(QLatin1Char('\''), 1, 1);
+    }
+
     // A user's click on a cell of the grid (column 1 unless told).
     static void click(ui::FlexGrid& grid, int row, int col = 1)
     {
         grid.scrollTo(grid.model()->index(row, col));
         QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.CellRect(row, col).center());
+    }
+    // A user's pick in a combo: its list opened (and so filled), then the entry chosen.
+    static void pick(QComboBox& combo, int index)
+    {
+        combo.showPopup();
+        combo.hidePopup();
+        combo.setCurrentIndex(index);
+        Q_EMIT combo.activated(index);
+    }
+    static void pick(QComboBox& combo, const QString& text)
+    {
+        combo.showPopup();
+        combo.hidePopup();
+        const int at = combo.findText(text);
+        ASSERT_GE(at, 0) << text.toStdString();
+        pick(combo, at);
+    }
+    // A combo's entries, each as its text, or as "text=data".
+    static QStringList entries(const QComboBox& combo, bool withData = false)
+    {
+        QStringList out;
+        for (int i = 0; i < combo.count(); ++i)
+            out << combo.itemText(i) + (withData ? u'=' + combo.itemData(i).toString() : QString());
+        return out;
     }
     // The texts of one column below the heading (column 1 of a list holds the keys).
     static QStringList column(const ui::FlexGrid& grid, int col = 1)

@@ -20,23 +20,16 @@ TEST(Connection, OpensOnlyAnExistingLedger)
 {
     TempDir dir;
     Connection c;
-    try {
-        c.Open(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + dir.file(QStringLiteral("pcdb.mdb")));
-        FAIL() << "opened a missing file";
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.Number(), db::EngineError::Fail);
-        EXPECT_TRUE(e.Description().contains(QStringLiteral("見つかりません")));
-    }
+    const Raised missing =
+        RaisedBy([&] { c.Open(QStringLiteral("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=") + dir.file(QStringLiteral("pcdb.mdb"))); });
+    EXPECT_EQ(missing.number, db::EngineError::Fail);
+    EXPECT_TRUE(missing.description.contains(QStringLiteral("見つかりません")));
     EXPECT_EQ(c.State(), db::adStateClosed);
     EXPECT_FALSE(QFile::exists(dir.file(QStringLiteral("pcdb.mdb")))) << "opening must not create the file";
 
     dir.write(QStringLiteral("junk.mdb"), QByteArray("this is no database at all, just text").repeated(200));
-    try {
-        c.Open(QStringLiteral("Data Source=") + dir.file(QStringLiteral("junk.mdb")));
-        FAIL() << "opened a file that is no ledger";
-    } catch (const VbError& e) {
-        EXPECT_TRUE(e.Description().contains(QStringLiteral("認識できないデータベース形式"))) << e.what();
-    }
+    const QString junk = RaisedBy([&] { c.Open(QStringLiteral("Data Source=") + dir.file(QStringLiteral("junk.mdb"))); }).description;
+    EXPECT_TRUE(junk.contains(QStringLiteral("認識できないデータベース形式"))) << junk.toStdString();
     EXPECT_EQ(c.State(), db::adStateClosed);
 }
 
@@ -56,12 +49,10 @@ TEST(Connection, ExecuteReportsTheEnginesRefusalsAsJetNumberedThem)
     EXPECT_EQ(errorOf(c, "SELEKT * FROM tbl_Pclist"), db::EngineError::SyntaxError);
     EXPECT_EQ(errorOf(c, ""), db::EngineError::SyntaxError);
     const QString longText(256, QLatin1Char('x'));
-    try {
-        c.Execute(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = '%1' WHERE MainKey = 0").arg(longText));
-        ADD_FAILURE() << "256 characters went into a text column";
-    } catch (const VbError& e) {
-        EXPECT_TRUE(e.Description().contains(QStringLiteral("小さすぎて"))) << e.what();
-    }
+    const QString tooLong = RaisedBy([&] {
+                                c.Execute(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = '%1' WHERE MainKey = 0").arg(longText));
+                            }).description;
+    EXPECT_TRUE(tooLong.contains(QStringLiteral("小さすぎて"))) << "256 characters in a text column: " << tooLong.toStdString();
     // a refused statement changes nothing and the connection goes on
     EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_Computer_List")), QStringLiteral("2"));
     EXPECT_EQ(c.Execute(QStringLiteral("UPDATE tbl_Computer_List SET tbl_Computer_List.[Asset_Code] = 0 WHERE MainKey = 1")), 1);
@@ -128,12 +119,7 @@ TEST(Connection, ClosedConnectionRefusesWork)
     Connection& c = l.connection();
     c.Close();
     EXPECT_EQ(c.State(), db::adStateClosed);
-    try {
-        c.Execute(QStringLiteral("SELECT * FROM tbl_Pclist"));
-        FAIL();
-    } catch (const VbError& e) {
-        EXPECT_EQ(e.Number(), 3709);
-    }
+    EXPECT_EQ(ErrorOf([&] { c.Execute(QStringLiteral("SELECT * FROM tbl_Pclist")); }), 3709);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "platform/vb/Conversion.h"
 
 #include "support/TempLedger.h"
+#include "support/VbErrors.h"
 
 #include <gtest/gtest.h>
 
@@ -11,16 +12,6 @@ using vb::Variant;
 using vb::VbError;
 
 namespace {
-
-long errorNumber(const std::function<void()>& f)
-{
-    try {
-        f();
-    } catch (const VbError& e) {
-        return e.Number();
-    }
-    return 0;
-}
 
 class RecordsetTest : public ::testing::Test {
 protected:
@@ -49,18 +40,18 @@ TEST_F(RecordsetTest, SnapshotWalksForwardAndBack)
     EXPECT_EQ(vb::CStr(rs.Fields(u"computer_name")), QStringLiteral("PC-2")) << "names are case-blind";
     rs.MoveNext();
     EXPECT_TRUE(rs.Eof());
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"Computer_Name").Value(); }), 3021);
-    EXPECT_EQ(errorNumber([&] { rs.MoveNext(); }), 3021);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Computer_Name").Value(); }), 3021);
+    EXPECT_EQ(ErrorOf([&] { rs.MoveNext(); }), 3021);
     rs.MovePrevious();
     EXPECT_EQ(rs.Fields(0).Value(), Variant::Integer(2));
     rs.MoveFirst();
     EXPECT_EQ(rs.Fields(0).Value(), Variant::Integer(1));
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"NoSuchField"); }), 3265);
-    EXPECT_EQ(errorNumber([&] { rs.Fields(rs.FieldCount()); }), 3265);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"NoSuchField"); }), 3265);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(rs.FieldCount()); }), 3265);
     rs.Close();
     EXPECT_EQ(rs.State(), db::adStateClosed);
-    EXPECT_EQ(errorNumber([&] { rs.RecordCount(); }), 3704);
-    EXPECT_EQ(errorNumber([&] { rs.Close(); }), 3704);
+    EXPECT_EQ(ErrorOf([&] { rs.RecordCount(); }), 3704);
+    EXPECT_EQ(ErrorOf([&] { rs.Close(); }), 3704);
     rs.CloseIfOpen();
 
     Recordset empty;
@@ -68,7 +59,7 @@ TEST_F(RecordsetTest, SnapshotWalksForwardAndBack)
     EXPECT_EQ(empty.RecordCount(), 0);
     EXPECT_TRUE(empty.Eof());
     EXPECT_TRUE(empty.Bof());
-    EXPECT_EQ(errorNumber([&] { empty.MoveFirst(); }), 3021);
+    EXPECT_EQ(ErrorOf([&] { empty.MoveFirst(); }), 3021);
 }
 
 TEST_F(RecordsetTest, ValuesAreTypedByTheDeclaredColumnType)
@@ -112,8 +103,8 @@ TEST_F(RecordsetTest, JoinedFieldsAreNamedAsAdoNamedThem)
     EXPECT_EQ(vb::CStr(rs.Fields(u"TBL_PCLIST.UPDATE")), QStringLiteral("2005/12/05"));
     EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Pclist.Computer_Name")), QStringLiteral("PC-1")) << "a unique name answers to both forms";
     EXPECT_EQ(vb::CStr(rs.Fields(u"ipaddress").Value().IsNull() ? Variant("null") : Variant("x")), QStringLiteral("null"));
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"MainKey"); }), 3265) << "a bare name two tables share names neither";
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"Available_flug"); }), 3265);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"MainKey"); }), 3265) << "a bare name two tables share names neither";
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Available_flug"); }), 3265);
 }
 
 TEST_F(RecordsetTest, JoinedRowUpdateWritesBothTablesTogether)
@@ -152,10 +143,10 @@ TEST_F(RecordsetTest, AssignmentsConvertOrFailAsAdoDid)
     Recordset rs;
     rs.Open(QStringLiteral("SELECT * FROM tbl_Computer_List WHERE MainKey  = 1"), l.connection(), db::adOpenStatic, db::adLockOptimistic);
     const long multiStep = db::EngineError::MultipleStep;
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"Leasing_Monthly_Amount") = Variant(QStringLiteral("abc")); }), multiStep);
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"Location_Code") = Variant(70000); }), multiStep);
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"Remove_Date") = Variant(QStringLiteral("2005/02/31")); }), multiStep);
-    EXPECT_EQ(errorNumber([&] { rs.Fields(u"Remove_Date") = Variant(QStringLiteral("0")); }), 0)
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Leasing_Monthly_Amount") = Variant(QStringLiteral("abc")); }), multiStep);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Location_Code") = Variant(70000); }), multiStep);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Remove_Date") = Variant(QStringLiteral("2005/02/31")); }), multiStep);
+    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Remove_Date") = Variant(QStringLiteral("0")); }), 0)
         << "a number is a date serial, as VB converts it";
     rs.CancelUpdate();
     rs.Fields(u"Deleted_Flug") = Variant(1);
@@ -166,11 +157,11 @@ TEST_F(RecordsetTest, AssignmentsConvertOrFailAsAdoDid)
 
     Recordset ro;
     ro.Open(QStringLiteral("SELECT * FROM tbl_Computer_List"), l.connection(), db::adOpenStatic, db::adLockReadOnly);
-    EXPECT_EQ(errorNumber([&] { ro.Fields(u"Comment") = Variant("x"); }), 3251);
+    EXPECT_EQ(ErrorOf([&] { ro.Fields(u"Comment") = Variant("x"); }), 3251);
 
     Recordset distinct;
     distinct.Open(QStringLiteral("SELECT DISTINCT * FROM tbl_Computer_List"), l.connection(), db::adOpenStatic, db::adLockOptimistic);
-    EXPECT_EQ(errorNumber([&] { distinct.Fields(u"Comment") = Variant("x"); }), db::EngineError::Fail);
+    EXPECT_EQ(ErrorOf([&] { distinct.Fields(u"Comment") = Variant("x"); }), db::EngineError::Fail);
 }
 
 TEST_F(RecordsetTest, AddNewInsertsIntoTheOneTableAndReadsDefaultsBack)

@@ -8,10 +8,7 @@ namespace {
 
 QStringList columnsOf(TempLedger& l, const QString& table)
 {
-    QStringList names;
-    for (const QString& r : l.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table)))
-        names << r;
-    return names;
+    return l.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
 }
 
 TEST(Schema, HoldsTheTablesWithTheirExactColumns)
@@ -58,15 +55,11 @@ TEST(Schema, RefusesWhatJetRefused)
 {
     TempLedger l;
     l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
+    // besides those whose error numbers the connection's tests check
     const Refusal refusals[] = {
-        {"letters in a long column", "UPDATE tbl_Pclist SET Memory_Full = 'abc' WHERE MainKey = 0"},
         {"a fraction in a long column", "UPDATE tbl_Pclist SET Memory_Full = 2.5 WHERE MainKey = 0"},
-        {"70000 in a key", "INSERT INTO tbl_Computer_List (MainKey) VALUES (70000)"},
-        {"a duplicate key", "INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"},
-        {"a day that does not exist", "UPDATE tbl_Computer_List SET Leasing_StartDate = '2005/02/31' WHERE MainKey = 1"},
         {"a month that does not exist", "UPDATE tbl_Computer_List SET Remove_Date = '2005/13/01' WHERE MainKey = 1"},
         {"a date that is no date", "UPDATE tbl_Computer_List SET Leasing_EndDate = 'soon' WHERE MainKey = 1"},
-        {"256 characters of text", "UPDATE tbl_Pclist SET Computer_Name = printf('%.256c', 'x') WHERE MainKey = 0"},
         {"a bad date in a licence", "INSERT INTO tbl_License_Dat (\"Key\", \"Update\") VALUES (1, '2005/2/30')"},
         {"letters in a staging-free key", "INSERT INTO tbl_Mail_Management (\"Key\") VALUES ('A')"},
     };

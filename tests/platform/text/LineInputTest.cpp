@@ -21,11 +21,6 @@ std::vector<std::string> AllLines(const QByteArray& bytes)
     return lines;
 }
 
-long ErrorOfReading(const QString& path)
-{
-    return ErrorOf([&] { ReadWholeFile(path); });
-}
-
 } // namespace
 
 TEST(LineInput, CrLfLoneLfAndLoneCrEachEndALine)
@@ -72,8 +67,8 @@ TEST(ReadWholeFile, ReadsTheBytesOrFailsAsOpenForInput)
     dir.write(QStringLiteral("pc.csv"), bytes);
     EXPECT_EQ(ReadWholeFile(dir.file(QStringLiteral("pc.csv"))), bytes);
 
-    EXPECT_EQ(ErrorOfReading(dir.file(QStringLiteral("none.csv"))), 53);
-    EXPECT_EQ(ErrorOfReading(dir.file(QStringLiteral("nofolder/pc.csv"))), 76);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(dir.file(QStringLiteral("none.csv"))); }), 53);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(dir.file(QStringLiteral("nofolder/pc.csv"))); }), 76);
     ASSERT_TRUE(QDir(dir.path()).mkdir(QStringLiteral("folder.csv")));
-    EXPECT_EQ(ErrorOfReading(dir.file(QStringLiteral("folder.csv"))), 75);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(dir.file(QStringLiteral("folder.csv"))); }), 75);
 }

@@ -4,6 +4,7 @@
 #include "platform/vb/VbError.h"
 
 #include "support/ScriptedDialogs.h"
+#include "support/VbErrors.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -79,12 +80,7 @@ TEST(Form, ALoadThatFailsLeavesNoHalfLoadedForm)
 {
     Probe::created = 0;
     Probe::failLoad = true;
-    try {
-        Probe::Instance();
-        ADD_FAILURE() << "the load's error did not reach the caller";
-    } catch (const vb::VbError& e) {
-        EXPECT_EQ(e.Number(), 13);
-    }
+    EXPECT_EQ(ErrorOf([] { Probe::Instance(); }), 13) << "the load's error reaches the caller";
     EXPECT_EQ(Probe::IfLoaded(), nullptr);
     EXPECT_TRUE(ui::Forms().isEmpty());
 
@@ -126,12 +122,7 @@ TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
     EXPECT_TRUE(frm().isVisible());
     EXPECT_EQ(frm().windowModality(), Qt::ApplicationModal);
     // a second modal Show of a shown window is refused as VB refused it
-    try {
-        frm().Show(ui::vbModal);
-        ADD_FAILURE() << "no error 400";
-    } catch (const vb::VbError& e) {
-        EXPECT_EQ(e.Number(), 400);
-    }
+    EXPECT_EQ(ErrorOf([&] { frm().Show(ui::vbModal); }), 400);
     frm().Unload();
     flushDeletes();
 
