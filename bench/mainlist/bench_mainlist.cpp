@@ -4,6 +4,7 @@
 // was hidden (which must be none).
 //
 //   bench_mainlist [--computers N] [--runs R]
+#include "../BenchMain.h"
 #include "../BenchTiming.h"
 #include "demo/LedgerGenerator.h"
 
@@ -164,25 +165,7 @@ int bench(int computers, int runs)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    const QStringList args = QApplication::arguments();
     int computers = 2560, runs = 7;
-    for (qsizetype i = 1; i < args.size(); ++i) {
-        if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
-            computers = args[++i].toInt();
-        else if (args[i] == QStringLiteral("--runs") && i + 1 < args.size())
-            runs = args[++i].toInt();
-        else {
-            std::fprintf(stderr, "usage: bench_mainlist [--computers N] [--runs R]\n");
-            return 2;
-        }
-    }
-    try {
-        return bench(computers, qMax(1, runs));
-    } catch (const vb::VbError& e) {
-        std::fprintf(stderr, "error %ld: %s\n", e.Number(), qPrintable(e.Description()));
-        return 1;
-    }
+    return BenchMain::Run(argc, argv, "bench_mainlist", {{"--computers", &computers}, {"--runs", &runs}},
+                          [&] { return bench(computers, qMax(1, runs)); });
 }

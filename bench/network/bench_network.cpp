@@ -5,6 +5,7 @@
 // settings). Prints the median of several runs of each; the two lists are compared row by row.
 //
 //   bench_network [--computers N] [--devices D] [--runs R]
+#include "../BenchMain.h"
 #include "../BenchTiming.h"
 #include "demo/LedgerGenerator.h"
 
@@ -197,27 +198,7 @@ int bench(int computers, int devices, int runs)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    const QStringList args = QApplication::arguments();
     int computers = 2560, devices = 500, runs = 7;
-    for (qsizetype i = 1; i < args.size(); ++i) {
-        if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
-            computers = args[++i].toInt();
-        else if (args[i] == QStringLiteral("--devices") && i + 1 < args.size())
-            devices = args[++i].toInt();
-        else if (args[i] == QStringLiteral("--runs") && i + 1 < args.size())
-            runs = args[++i].toInt();
-        else {
-            std::fprintf(stderr, "usage: bench_network [--computers N] [--devices D] [--runs R]\n");
-            return 2;
-        }
-    }
-    try {
-        return bench(computers, devices, qMax(1, runs));
-    } catch (const vb::VbError& e) {
-        std::fprintf(stderr, "error %ld: %s\n", e.Number(), qPrintable(e.Description()));
-        return 1;
-    }
+    return BenchMain::Run(argc, argv, "bench_network", {{"--computers", &computers}, {"--devices", &devices}, {"--runs", &runs}},
+                          [&] { return bench(computers, devices, qMax(1, runs)); });
 }

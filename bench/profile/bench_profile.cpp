@@ -7,6 +7,7 @@
 // Medians of several runs, offscreen unless QT_QPA_PLATFORM says otherwise.
 //
 //   bench_profile [--computers N] [--runs R]
+#include "../BenchMain.h"
 #include "../BenchTiming.h"
 #include "demo/InventoryGenerator.h"
 
@@ -214,25 +215,7 @@ int run(int computers, int runs)
 
 int main(int argc, char** argv)
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    const QStringList args = QApplication::arguments();
     int computers = 20, runs = 15;
-    for (qsizetype i = 1; i < args.size(); ++i) {
-        if (args[i] == QStringLiteral("--computers") && i + 1 < args.size())
-            computers = qBound(2, args[++i].toInt(), 2560);
-        else if (args[i] == QStringLiteral("--runs") && i + 1 < args.size())
-            runs = qMax(1, args[++i].toInt());
-        else {
-            std::fprintf(stderr, "usage: bench_profile [--computers N] [--runs R]\n");
-            return 2;
-        }
-    }
-    try {
-        return run(computers, runs);
-    } catch (const vb::VbError& e) {
-        std::fprintf(stderr, "error %ld: %s\n", e.Number(), qPrintable(e.Description()));
-        return 1;
-    }
+    return BenchMain::Run(argc, argv, "bench_profile", {{"--computers", &computers}, {"--runs", &runs}},
+                          [&] { return run(qBound(2, computers, 2560), qMax(1, runs)); });
 }
