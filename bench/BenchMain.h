@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QStringList>
+#include <QThread>
 
 #include <cstdio>
 #include <initializer_list>
@@ -17,6 +18,16 @@ struct Option {
     const char* name; // "--runs"
     int* value;
 };
+
+// Lets the events a paint or a previous run left behind be handled: rounds of the event loop
+// with a pause between them.
+inline void Settle(int rounds, int pauseMs)
+{
+    for (int i = 0; i < rounds; ++i) {
+        QApplication::processEvents();
+        QThread::msleep(pauseMs);
+    }
+}
 
 template <class Body> int Run(int argc, char** argv, const char* program, std::initializer_list<Option> options, Body body)
 {

@@ -116,10 +116,7 @@ int bench(int computers, int runs)
     std::vector<int> paints;
     for (int r = 0; r < runs; ++r) {
         // let the previous fill's paints settle
-        for (int i = 0; i < 5; ++i) {
-            QApplication::processEvents();
-            QThread::msleep(10);
-        }
+        BenchMain::Settle(5, 10);
         const int before = grid.PaintCount();
         const double cpuStart = cpuMs();
         t.restart();
@@ -134,10 +131,7 @@ int bench(int computers, int runs)
         shown.push_back(ms(t));
         cpu.push_back(cpuMs() - cpuStart);
         // any further paint that the fill caused
-        for (int i = 0; i < 10; ++i) {
-            QApplication::processEvents();
-            QThread::msleep(5);
-        }
+        BenchMain::Settle(10, 5);
         paints.push_back(grid.PaintCount() - before);
     }
     if (grid.Rows() != computers + 1 || grid.Cols() != 78) {

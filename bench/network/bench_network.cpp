@@ -136,10 +136,7 @@ int bench(int computers, int devices, int runs)
 
     std::vector<double> rebuilds, fills, shown, cpu, rebuildCpu, fillCpu;
     for (int r = 0; r < runs; ++r) {
-        for (int i = 0; i < 5; ++i) {
-            QApplication::processEvents();
-            QThread::msleep(10);
-        }
+        BenchMain::Settle(5, 10);
         const int before = grid.PaintCount();
         const double cpuStart = cpuMs();
         t.restart();

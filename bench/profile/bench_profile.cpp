@@ -88,10 +88,7 @@ double untilPainted(PaintWatch& watch, const std::function<void()>& action, Timi
     into.wall.push_back(wall);
     into.cpu.push_back(cpuMs() - cpu0);
     // let whatever else the action caused settle outside the figure
-    for (int i = 0; i < 5; ++i) {
-        QApplication::processEvents();
-        QThread::msleep(2);
-    }
+    BenchMain::Settle(5, 2);
     return wall;
 }
 
