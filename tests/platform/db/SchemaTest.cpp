@@ -6,31 +6,6 @@
 
 namespace {
 
-QStringList columnsOf(TempLedger& l, const QString& table)
-{
-    return l.rows(QStringLiteral("SELECT name FROM pragma_table_info('%1')").arg(table));
-}
-
-TEST(Schema, HoldsTheTablesWithTheirExactColumns)
-{
-    TempLedger l;
-    EXPECT_EQ(l.rows(QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name")).size(), 18);
-    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_ReadCsv")),
-              (QStringList{"Key", "Group", "Item", "SubItem", "Contents", "Unit", "Renewalday"}));
-    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_User")),
-              (QStringList{"User_Code", "User_Name", "User_Comment", "Available_flug", "kana", "Employee_SerialNumber", "Acount_Name",
-                           "logon_Password", "Section_Code", "Division_Code"}));
-    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_Mail_Management")),
-              (QStringList{"Key", "User_Code", "Conputer_Code", "beat_loginID", "beat_loginPassward", "Windows_UserName", "Mail_Address",
-                           "SMTP_IPAddress", "POP3_IPAddress", "Mailbox_AccountName", "Mailbox_Password"}));
-    const QStringList pc = columnsOf(l, QStringLiteral("tbl_Pclist"));
-    EXPECT_EQ(pc.size(), 116);
-    for (const char* name : {"CPU_3DNowEx", "DomeinName", "HostsName", "IPAddress_16num", "Memory_Used_unit", "HUB_Name",
-                             "CPU_L1_Trace_Cache_unit", "RASInstalled", "Start_Page"})
-        EXPECT_TRUE(pc.contains(QString::fromUtf8(name))) << name;
-    EXPECT_EQ(columnsOf(l, QStringLiteral("tbl_Computer_List")).size(), 21);
-}
-
 TEST(Schema, HoldsTheRowsOfCodeZeroAndAnUnsetComputer)
 {
     TempLedger l;

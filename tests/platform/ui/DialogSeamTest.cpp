@@ -91,25 +91,6 @@ TEST(QtDialogs, SaveDialogReplacesAFileWithoutAQuestionUnlessTheFlagsAskForOne)
     EXPECT_EQ(chosen, std::nullopt);
 }
 
-TEST(CommonDialog, PrinterDialogAndItsSetupForm)
-{
-    ScriptedDialogs dialogs;
-    CommonDialog cd;
-    // the page layout command: setup form, cancel is no error
-    cd.Flags = ui::cdlPDPrintSetup;
-    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), 0);
-    EXPECT_EQ(dialogs.calls().back().kind, ScriptedDialogs::Call::Printer);
-    EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::PrintSetup);
-    // the print command: the print dialog, whose cancel is a failure
-    cd.CancelError = true;
-    cd.Flags = 0x140004;
-    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), vb::Err::CancelSelected);
-    EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::Print);
-    EXPECT_EQ(dialogs.calls().back().printer.flags, 0x140004);
-    dialogs.answerPrinter(true);
-    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), 0);
-}
-
 // The report and the end that the dispatcher gives an error no handler caught, with the end
 // recorded; FatalEndTest ends a real process.
 TEST(Dispatch, EveryConnectedHandlerReportsAnUncaughtErrorAndEndsTheProgram)
