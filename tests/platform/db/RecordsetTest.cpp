@@ -88,37 +88,6 @@ TEST_F(RecordsetTest, JoinedFieldsAreNamedAsAdoNamedThem)
     EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Available_flug"); }), 3265);
 }
 
-TEST_F(RecordsetTest, JoinedRowUpdateWritesBothTablesTogether)
-{
-    Recordset rs;
-    rs.Open(QStringLiteral("SELECT tbl_Pclist.*, tbl_Computer_List.* FROM tbl_Pclist, tbl_Computer_List  WHERE (((tbl_Pclist.MainKey = "
-                           "tbl_Computer_List.MainKey)) AND ((tbl_Computer_List.MainKey)= 1));"),
-            l.connection(), db::adOpenStatic, db::adLockOptimistic);
-    ASSERT_EQ(rs.RecordCount(), 1);
-    rs.Fields(u"Computer_Name") = Variant(QStringLiteral("経理-01"));
-    rs.Fields(u"Memory_Full") = Variant(QStringLiteral("1024"));
-    rs.Fields(u"Comment") = Variant(QStringLiteral("移設済み"));
-    rs.Fields(u"Leasing_EndDate") = Variant(QStringLiteral("2010/3/31"));
-    rs.Fields(u"Sereals_Number") = Variant::Null();
-    EXPECT_EQ(rs.EditModeState(), db::adEditInProgress);
-    EXPECT_EQ(vb::CStr(rs.Fields(u"Computer_Name")), QStringLiteral("経理-01")) << "an assigned value reads back before Update";
-    // nothing is written before Update
-    EXPECT_EQ(l.value(QStringLiteral("SELECT Computer_Name FROM tbl_Pclist WHERE MainKey = 1")), QStringLiteral("PC-1"));
-    rs.Update();
-    EXPECT_EQ(l.rows(QStringLiteral("SELECT Computer_Name, Memory_Full FROM tbl_Pclist WHERE MainKey = 1")),
-              QStringList{QStringLiteral("経理-01|1024")});
-    EXPECT_EQ(l.rows(QStringLiteral("SELECT Comment, Leasing_EndDate, Leasing_StartDate FROM tbl_Computer_List WHERE MainKey = 1")),
-              QStringList{QStringLiteral("移設済み|2010/03/31|2005/04/01")});
-    EXPECT_EQ(l.value(QStringLiteral("SELECT Computer_Name FROM tbl_Pclist WHERE MainKey = 2")), QStringLiteral("PC-2"));
-
-    // a refusal in the second table undoes the first: nothing of the row is written
-    rs.Fields(u"Computer_Name") = Variant(QStringLiteral("half"));
-    rs.Fields(u"Comment") = Variant(QString(300, QLatin1Char('x')));
-    EXPECT_THROW(rs.Update(), VbError);
-    EXPECT_EQ(l.value(QStringLiteral("SELECT Computer_Name FROM tbl_Pclist WHERE MainKey = 1")), QStringLiteral("経理-01"));
-    rs.CancelUpdate();
-}
-
 TEST_F(RecordsetTest, AssignmentsConvertOrFailAsAdoDid)
 {
     Recordset rs;

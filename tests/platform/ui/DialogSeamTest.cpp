@@ -7,7 +7,6 @@
 
 #include "support/ScriptedDialogs.h"
 #include "support/TempDir.h"
-#include "support/VbErrors.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,35 +18,7 @@
 
 #include <gtest/gtest.h>
 
-using ui::CommonDialog;
-
 namespace {
-
-TEST(CommonDialog, SaveDialogAsTheListExportAsksForIt)
-{
-    ScriptedDialogs dialogs;
-    CommonDialog cd;
-    cd.CancelError = true;
-    cd.DialogTitle = QStringLiteral("CSV書き出し");
-    cd.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
-    cd.FilterIndex = 2;
-    dialogs.answerFile(QStringLiteral("/home/kanri/一覧.csv"));
-    cd.ShowSave();
-    ASSERT_EQ(dialogs.calls().size(), 1u);
-    const ui::FileDialogRequest& r = dialogs.calls()[0].file;
-    EXPECT_EQ(r.filter, QStringLiteral("全て(*.*)|*.*CSVファイル|*.csv"));
-    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
-    EXPECT_EQ(cd.FileTitle, QStringLiteral("一覧.csv"));
-
-    // cancel with CancelError is error 32755 and leaves FileName as it was
-    EXPECT_EQ(ErrorOf([&] { cd.ShowOpen(); }), vb::Err::CancelSelected);
-    EXPECT_EQ(dialogs.calls().back().file.fileName, QStringLiteral("/home/kanri/一覧.csv"));
-    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
-    // without it a cancel is silent
-    cd.CancelError = false;
-    EXPECT_EQ(ErrorOf([&] { cd.ShowSave(); }), 0);
-    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
-}
 
 // Runs Qt's save dialog, chooses the file and accepts; says whether a question came before the
 // dialog closed (the question is refused, and the dialog with it).

@@ -143,26 +143,6 @@ TEST(Form, ModalWindowInTheProgramWaitsUntilItGoes)
     flushDeletes();
 }
 
-TEST(Form, PlaceAndSizeInTwips)
-{
-    Form f;
-    f.SetWidth(6000);
-    f.SetHeight(4500);
-    f.SetLeft(1500);
-    f.SetTop(750);
-    EXPECT_EQ(f.geometry(), QRect(ui::TwipsToPixels(1500), ui::TwipsToPixels(750), ui::TwipsToPixels(6000), ui::TwipsToPixels(4500)));
-
-    // Sizes set before the window is shown count its frame as nothing; once it is framed (here by
-    // the offscreen platform) the outer window still has the size asked for, and the place.
-    f.show();
-    QCoreApplication::processEvents();
-    ASSERT_GT(f.frameGeometry().height(), f.height()) << "the window has a frame";
-    EXPECT_EQ(f.Width(), ui::PixelsToTwips(ui::TwipsToPixels(6000)));
-    EXPECT_EQ(f.Height(), ui::PixelsToTwips(ui::TwipsToPixels(4500)));
-    EXPECT_EQ(f.Left(), 1500);
-    EXPECT_EQ(f.Top(), 750);
-}
-
 TEST(FixedSize, CentresAtLoadAndKeepsItsSize)
 {
     auto* f = new Form;
