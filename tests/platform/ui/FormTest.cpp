@@ -120,11 +120,6 @@ TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
     EXPECT_EQ(ErrorOf([&] { frm().Show(ui::vbModal); }), 400);
     frm().Unload();
     flushDeletes();
-
-    frm().Show(ui::vbModeless);
-    EXPECT_EQ(frm().windowModality(), Qt::NonModal);
-    frm().Unload();
-    flushDeletes();
 }
 
 TEST(Form, ModalWindowInTheProgramWaitsUntilItGoes)
