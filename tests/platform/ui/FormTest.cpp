@@ -46,17 +46,21 @@ protected:
 
 void flushDeletes() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
-TEST(Form, OneInstanceCreatedOnFirstUseAndEndedByItsUnload)
+// One instance from its first use to its unload; the close box asks first and may be refused.
+TEST(Form, OneInstanceLivesFromItsFirstUseUntilItsUnloadOrItsCloseBox)
 {
     Probe::created = 0;
     EXPECT_EQ(Probe::IfLoaded(), nullptr);
     Probe& first = Probe::Instance();
     EXPECT_EQ(&Probe::Instance(), &first);
     EXPECT_EQ(first.loads, 1);
+    // a second modal Show of a shown window is refused as VB refused it
+    first.Show(ui::vbModal);
+    EXPECT_EQ(first.windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(ErrorOf([&] { first.Show(ui::vbModal); }), 400);
 
     QSignalSpy unloaded(&first, &Form::Unloaded);
     QPointer<Probe> gone(&first);
-    first.Show();
     EXPECT_TRUE(first.Unload());
     EXPECT_EQ(first.queries, std::vector<int>{ui::vbFormCode});
     EXPECT_EQ(first.unloads, 1);
@@ -69,8 +73,18 @@ TEST(Form, OneInstanceCreatedOnFirstUseAndEndedByItsUnload)
     Probe& second = Probe::Instance();
     EXPECT_EQ(Probe::created, 2);
     EXPECT_EQ(second.loads, 1) << "a fresh instance loads again";
-    second.Unload();
+    second.Show();
+    second.refuse = true;
+    second.close();
+    EXPECT_EQ(second.queries, std::vector<int>{ui::vbFormControlMenu});
+    EXPECT_TRUE(second.isVisible());
+    second.refuse = false;
+    QPointer<Probe> closed(&second);
+    second.close();
+    EXPECT_EQ(second.unloads, 1);
+    EXPECT_EQ(Probe::IfLoaded(), nullptr);
     flushDeletes();
+    EXPECT_TRUE(closed.isNull());
 }
 
 TEST(Form, ALoadThatFailsLeavesNoHalfLoadedForm)
@@ -87,38 +101,6 @@ TEST(Form, ALoadThatFailsLeavesNoHalfLoadedForm)
     EXPECT_EQ(Probe::created, 2);
     EXPECT_EQ(f.loads, 1);
     f.Unload();
-    flushDeletes();
-}
-
-TEST(Form, CloseBoxAsksWithModeZeroAndMayBeRefused)
-{
-    auto* f = new Probe;
-    f->Load();
-    f->Show();
-    f->refuse = true;
-    f->close();
-    EXPECT_EQ(f->queries, std::vector<int>{ui::vbFormControlMenu});
-    EXPECT_TRUE(f->isVisible());
-    EXPECT_TRUE(f->IsLoaded());
-
-    f->refuse = false;
-    QPointer<Probe> gone(f);
-    f->close();
-    EXPECT_EQ(f->unloads, 1);
-    EXPECT_FALSE(f->isVisible());
-    flushDeletes();
-    EXPECT_TRUE(gone.isNull());
-}
-
-TEST(Form, ModalWindowInTestsShowsApplicationModalAndReturns)
-{
-    auto frm = []() -> Probe& { return Probe::Instance(); };
-    frm().Show(ui::vbModal);
-    EXPECT_TRUE(frm().isVisible());
-    EXPECT_EQ(frm().windowModality(), Qt::ApplicationModal);
-    // a second modal Show of a shown window is refused as VB refused it
-    EXPECT_EQ(ErrorOf([&] { frm().Show(ui::vbModal); }), 400);
-    frm().Unload();
     flushDeletes();
 }
 
