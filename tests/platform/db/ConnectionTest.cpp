@@ -80,17 +80,6 @@ TEST(Connection, TransactionsCommitRollBackAndNest)
         << "a transaction guard that was not committed rolls back";
 }
 
-TEST(Connection, RunsTriggersTellsTheStatementsThatCouldStartOne)
-{
-    // the ledger's date triggers run on an insert and on an update of their own column only
-    TempLedger l;
-    Connection& c = l.connection();
-    EXPECT_FALSE(c.runsTriggers(QStringLiteral("UPDATE tbl_Computer_List SET Type_Number = ?, \"Update\" = ? WHERE MainKey = ?")));
-    EXPECT_TRUE(c.runsTriggers(QStringLiteral("UPDATE tbl_Computer_List SET Type_Number = ?, Leasing_StartDate = ? WHERE MainKey = ?")));
-    EXPECT_TRUE(c.runsTriggers(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey) VALUES (?)")));
-    EXPECT_TRUE(c.runsTriggers(QStringLiteral("UPDATE tbl_Pclist SET NoSuchColumn = ?")));
-}
-
 TEST(Connection, ClosedConnectionRefusesWork)
 {
     TempLedger l;

@@ -40,30 +40,6 @@ TEST_P(Rewrite, GivesSqliteText) { EXPECT_EQ(JetSql::Rewrite(QString::fromUtf8(G
 
 INSTANTIATE_TEST_SUITE_P(JetSql, Rewrite, ::testing::ValuesIn(kRewrites), [](const auto& info) { return std::string(info.param.name); });
 
-TEST(JetSql, LiftsTheLiteralsOfWritesAndOfWhereClauses)
-{
-    const JetStatement u = JetSql::Parse(u"UPDATE tbl_Pclist SET tbl_Pclist.[Memory_Full] = 512 WHERE MainKey = 3");
-    EXPECT_EQ(u.kind, JetStatement::Kind::Update);
-    EXPECT_EQ(u.shape, QStringLiteral("UPDATE tbl_Pclist SET \"Memory_Full\" = ? WHERE MainKey = ?"));
-    ASSERT_EQ(u.params.size(), 2u);
-    EXPECT_EQ(std::get<std::int64_t>(u.params[0]), 512);
-    EXPECT_EQ(std::get<std::int64_t>(u.params[1]), 3);
-
-    const JetStatement s =
-        JetSql::Parse(u"SELECT 'x', MainKey FROM tbl_Pclist WHERE (Computer_Name = 'it''s' AND MainKey > 2.5) ORDER BY 1;");
-    EXPECT_EQ(s.shape, QStringLiteral("SELECT 'x', MainKey FROM tbl_Pclist WHERE (Computer_Name = ? AND MainKey > ?) ORDER BY 1;"))
-        << "the select list and ORDER BY keep their literals";
-    ASSERT_EQ(s.params.size(), 2u);
-    EXPECT_EQ(std::get<QString>(s.params[0]), QStringLiteral("it's"));
-    EXPECT_EQ(std::get<double>(s.params[1]), 2.5);
-    EXPECT_EQ(s.selectListAt, 6);
-    EXPECT_FALSE(s.distinct);
-
-    const JetStatement d = JetSql::Parse(u"SELECT DISTINCT tbl_Pclist.* FROM tbl_Pclist");
-    EXPECT_TRUE(d.distinct);
-    EXPECT_EQ(d.shape.left(d.selectListAt), QStringLiteral("SELECT DISTINCT"));
-}
-
 // Every statement text the program builds, rewritten, must prepare against the empty ledger:
 // both the text itself and the shape with its literals lifted.
 TEST(JetSql, EveryStatementOfTheProgramPreparesAgainstTheLedger)
