@@ -141,20 +141,6 @@ TEST(Conversion, CDateReadsJapaneseDateTextsAndOleSerials)
     RunCases(cases, [](const Variant& v) { return CDate(v); });
 }
 
-TEST(Conversion, ValReadsTheLeadingNumber)
-{
-    const struct {
-        const char* text;
-        double value;
-    } cases[] = {
-        {"12abc", 12},        {"", 0},           {" 1 2 ", 12},  {"\t1\n2", 12}, {"1,234", 1}, {"&hff", 255}, {"&HFFFF", -1},
-        {"&HFFFFF", 1048575}, {"&H1Z", 1},       {"&O78", 7},    {"&H", 0},      {"-3", -3},   {"2d2", 200},  {"1e", 1},
-        {"1e+x", 1},          {"-3.5e1 x", -35}, {"1.2.3", 1.2}, {".", 0},       {"abc12", 0}, {"-x", 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Val(QString::fromUtf8(c.text)), c.value) << '"' << c.text << '"';
-}
-
 TEST(Conversion, TrimTakesBlanksAndIdeographicSpacesButNotTabs)
 {
     EXPECT_EQ(Trim(QStringLiteral(" 　東京　本社　 ")), QStringLiteral("東京　本社"));
