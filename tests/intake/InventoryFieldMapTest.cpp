@@ -115,7 +115,6 @@ TEST(InventoryFieldMap, ValuesAreConvertedByKind)
         {42, 4, QString(), QStringLiteral("0")},                   // guarded
         {99, 5, QStringLiteral("True"), QStringLiteral("1")},      // setting flag
         {99, 5, QStringLiteral("TRUE"), QStringLiteral("0")},
-        {4, 4, QStringLiteral("999.1.1.1"), QStringLiteral("FFFFFFFF")},
         {1, 4, longText, longText.left(255)},                   // text: 255 characters
         {8, 5, QStringLiteral(" KB "), QStringLiteral(" KB ")}, // unit: as it stands
     };

@@ -116,49 +116,14 @@ TEST_F(InventoryRead, TheEnglishReaderTakesTheEnglishKeywordsAndTheWindowsDate)
               QStringLiteral("￥￥print01￥sales-lj"));
 }
 
-TEST_F(InventoryRead, AnEnglishFileReadInJapaneseFillsOnlyTheLanguageFreeRows)
+// (refused and unreadable files: ReadCommand)
+TEST_F(InventoryRead, AFileOfTheHeaderAloneMakesAComputerOfEmptyValues)
 {
-    const auto results = read({QStringLiteral("en_pc02.csv")});
-    ASSERT_EQ(results[0].outcome, Outcome::Read);
-    FieldValues expected;
-    for (const InventoryFieldRow& row : InventoryFieldMap()) {
-        const FieldSelection ja = row.selection(InventoryLanguage::Japanese, FieldMapPath::BulkRead);
-        const FieldSelection en = row.selection(InventoryLanguage::English, FieldMapPath::BulkRead);
-        const bool languageBound = ja.firstValue != en.firstValue || ja.secondValue != en.secondValue;
-        if (!languageBound || row.table != QLatin1String("tbl_Pclist"))
-            continue;
-        const bool number = row.kind == FieldKind::Number || row.kind == FieldKind::GuardedNumber;
-        const bool flag = row.kind == FieldKind::SettingFlag;
-        expected.push_back({row.writtenField(FieldMapPath::BulkRead).toString(), number || flag ? "0" : ""});
-    }
-    ASSERT_EQ(expected.size(), 50u);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, expected);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1,
-              Fields({"Operating_System=Microsoft Windows 2000 Professional", "CPU_Unit=2", "CPU_MCA=1", "SecondaryWINS=10.1.0.7"}));
-    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, Fields({"Update=", "Type_Number=OptiPlex GX270"}));
-    // the row-wise sections do not depend on the language
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Device_Management"), QStringLiteral("\"Key\" = 1")), 2);
-}
-
-TEST_F(InventoryRead, RefusedFilesAreSkippedAndAnUnreadableOneReusesTheStagedFile)
-{
-    TempDir other;
-    const auto results = read({QStringLiteral("ja_pc01.csv"), QStringLiteral("bad_header.csv"), QStringLiteral("bad_header_case.csv"),
-                               other.file(QStringLiteral("gone.csv")), QStringLiteral("header_only.csv")});
-    ASSERT_EQ(results.size(), 5u);
-    EXPECT_EQ(results[1].outcome, Outcome::RefusedHeader);
-    EXPECT_EQ(results[3].outcome, Outcome::Unreadable);
-
-    // nothing of the refused files reached the ledger; the unreadable one made a copy of the last
-    // staged file; the header-only file a computer of empty values
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT MainKey FROM tbl_Computer_List ORDER BY MainKey")), (QStringList{"0", "1", "2", "3"}));
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Pclist"), QStringLiteral("Computer_Name LIKE 'PC-KEIRI%'")), 0);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2, JaPc01Pclist());
-    EXPECT_EQ(applications(2).size(), 5);
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 3,
+    read({QStringLiteral("ja_pc01.csv"), QStringLiteral("header_only.csv")});
+    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 2,
               Fields({"Computer_Name=", "IPAddress_16num=", "Memory_Full=0", "CPU_FPU=0", "Internet_Connection=0", "Update="}));
-    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 3, Fields({"Asset_Code=0", "Type_Number="}));
-    EXPECT_EQ(applications(3).size(), 0);
+    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 2, Fields({"Asset_Code=0", "Type_Number="}));
+    EXPECT_EQ(applications(2).size(), 0);
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 0);
 }
 
@@ -174,25 +139,21 @@ TEST_F(InventoryRead, ARefusedStatementIsDroppedAloneAndTheRestOfTheFileGoesIn)
     EXPECT_EQ(applications(1).size(), 5);
 }
 
-TEST_F(InventoryRead, WhereATriggerRunsOnStagingEachFileIsStagedAsItIsRead)
+// Where triggers run, each file is staged as it is read, and the fields are written one
+// statement after another.
+TEST_F(InventoryRead, WhereATriggerRunsTheFileIsStagedAndWrittenStatementByStatement)
 {
     ledger.exec(QStringLiteral("CREATE TABLE staged (n INTEGER)"));
     ledger.exec(QStringLiteral("INSERT INTO staged VALUES (0)"));
     ledger.exec(QStringLiteral("CREATE TRIGGER count_staging AFTER DELETE ON tbl_ReadCsv BEGIN UPDATE staged SET n = n + 1; END"));
-    read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv"), QStringLiteral("ja_pc01.csv")});
-    // the trigger runs for each row that the next file's staging deletes
-    const size_t english = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")))->size();
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT n FROM staged")), QString::number(107 + english));
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 107);
-}
-
-TEST_F(InventoryRead, WhereATriggerRunsTheFieldsAreWrittenOneStatementAfterAnother)
-{
     // the name is written before the workgroup, so the workgroup the trigger sets is overwritten
     ledger.exec(QStringLiteral("CREATE TRIGGER name_sets_workgroup AFTER UPDATE OF Computer_Name ON tbl_Pclist "
                                "BEGIN UPDATE tbl_Pclist SET Workgroup = 'SET BY NAME' WHERE MainKey = NEW.MainKey; END"));
-    read({QStringLiteral("ja_pc01.csv")});
-    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, JaPc01Pclist());
+    read({QStringLiteral("ja_pc01.csv"), QStringLiteral("en_pc02.csv"), QStringLiteral("ja_pc01.csv")});
+    ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 3, JaPc01Pclist());
+    // the trigger runs for each row that the next file's staging deletes
+    const size_t english = Mdl_Access_mdb::ReadInventoryLines(Inventory(QStringLiteral("en_pc02.csv")))->size();
+    EXPECT_EQ(ledger.value(QStringLiteral("SELECT n FROM staged")), QString::number(107 + english));
 }
 
 // The read writes a computer's fields with one UPDATE a table where that gives the same row as

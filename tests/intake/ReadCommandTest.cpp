@@ -4,8 +4,6 @@
 #include "support/AdminProcess.h"
 #include "TestPaths.h"
 
-#include <QFile>
-
 namespace {
 
 class ReadCommand : public ::testing::Test {
@@ -44,18 +42,6 @@ TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97);
     EXPECT_EQ(ledger.value(QStringLiteral("SELECT Contents FROM tbl_ReadCsv WHERE SubItem = 'Computer name'")),
               QStringLiteral("SALES-PC07"));
-}
-
-// (without --ledger every command takes pcdb.mdb beside the program: the list export's tests run
-// one there)
-TEST_F(ReadCommand, OpensALedgerOfAnyName)
-{
-    TempDir folder;
-    QFile::copy(ledger.path(), folder.file(QStringLiteral("branch.ledger")));
-    const QString ja = Inventory(QStringLiteral("ja_pc01.csv"));
-    AdminRun r = Admin({QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("branch.ledger")), ja});
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(r.out.value(0), ja + QStringLiteral(": MainKey 1"));
 }
 
 TEST_F(ReadCommand, UsageAndLedgerErrorsEndWithStatusOneAndChangeNothing)
