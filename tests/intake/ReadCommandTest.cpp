@@ -53,7 +53,6 @@ TEST_F(ReadCommand, UsageAndLedgerErrorsEndWithStatusOneAndChangeNothing)
     const std::vector<QStringList> cases = {
         {QStringLiteral("read")},
         {QStringLiteral("read"), QStringLiteral("--ledger"), ledger.path()},
-        {QStringLiteral("read"), QStringLiteral("--ledger")},
         {QStringLiteral("read"), QStringLiteral("--japanese"), QStringLiteral("--ledger"), ledger.path(), ja},
         {QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("missing.mdb")), ja},
         {QStringLiteral("read"), QStringLiteral("--ledger"), folder.file(QStringLiteral("pcdb.mdb")), ja},
