@@ -230,7 +230,7 @@ TEST_F(ListCommandsTest, SearchMarksTheCellsThatBeginWithTheWord)
     } cases[] = {
         {"PC-A", "WYW|WWW|WWW"},                            // not in the middle of a cell
         {"PC", "WYW|WYW|WWY"},                              // exact case
-        {"PC-?2", "WWW|WYW|WWW"}, {"PC-A#", "WYW|WWW|WWW"}, // "#" a digit
+        {"PC-A#", "WYW|WWW|WWW"},                           // "#" a digit
         {"PC[#]", "WWW|WWW|WWY"},                           // "[#]" the character itself
         {"*A", "WYW|WWW|WYW"},    {"[!P]", "YWY|YWY|YYW"},  // the hidden keys too
         {"pc-A", nullptr},        {"[PC", nullptr},         // an unclosed set matches nothing

@@ -94,33 +94,17 @@ TEST_F(Access, RecordExistsAndFieldTypeName)
     ASSERT_EQ(dialogs.messages().size(), 1u);
     dialogs.clear();
 
-    ledger.exec(QStringLiteral("UPDATE tbl_Computer_List SET Remove_Date = '2005/12/04' WHERE MainKey = 0"));
-    struct {
-        const char* sql;
-        const char* word;
-    } const cases[] = {
-        {"SELECT Memory_Full FROM tbl_Pclist", "数値"},        // INTEGER
-        {"SELECT Computer_Name FROM tbl_Pclist", "文字"},      // TEXT
-        {"SELECT Remove_Date FROM tbl_Computer_List", "日付"}, // DATETIME
-        {"SELECT CPU_FPU FROM tbl_Pclist", "不明"},            // SMALLINT: a flag is no number here
-        {"SELECT MainKey FROM tbl_Pclist", "不明"},
-        {"SELECT Renewalday FROM tbl_ReadCsv", "不明"}, // no row: the word stays
-        {"SELECT Memory_Full FROM tbl_Pclist WHERE MainKey = 9", "不明"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(FieldTypeName(QString::fromUtf8(c.sql)), QString::fromUtf8(c.word)) << c.sql;
+    // (the kinds of the inventory fields: the review window's overwrite)
+    EXPECT_EQ(FieldTypeName(QStringLiteral("SELECT Renewalday FROM tbl_ReadCsv")), QStringLiteral("不明")) << "no row: the word stays";
     EXPECT_TRUE(dialogs.calls().empty());
     EXPECT_EQ(FieldTypeName(QStringLiteral("SELECT Nonsense FROM tbl_Pclist")), QStringLiteral("不明"));
     EXPECT_EQ(dialogs.messages().size(), 1u);
 }
 
-TEST_F(Access, NextKeysStartAtZeroForCodesAndAtOneForComputers)
+TEST_F(Access, RetiredComputersKeepTheirKeysTaken)
 {
+    // (the code tables' next keys: their windows' additions)
     EXPECT_EQ(MaxOfFirstColumn(QStringLiteral("tbl_License_Key")), -1) << "an empty table";
-    EXPECT_EQ(MaxOfFirstColumn(QStringLiteral("tbl_Section")), 0) << "the row of code 0";
-    ledger.exec(QStringLiteral("INSERT INTO tbl_Section VALUES (32767, 'x', '', '0')"));
-    EXPECT_EQ(MaxOfFirstColumn(QStringLiteral("tbl_Section")), 32767);
-
     ledger.exec(QStringLiteral("DELETE FROM tbl_Computer_List"));
     EXPECT_EQ(MaxMainKey(), 0) << "an empty table";
     ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Deleted_Flug) VALUES (4, 1), (2, 0)"));
