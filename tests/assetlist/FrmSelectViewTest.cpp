@@ -9,7 +9,6 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QRadioButton>
-#include <QRegularExpression>
 
 #include <array>
 #include <initializer_list>
@@ -173,14 +172,15 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAndNamesIt)
     EXPECT_EQ(iniSection(u("Main")), us({"SectionName2=新しい名前"}));
 }
 
-TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
+TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionMovesSortKeysUpAndRefillsTheMainList)
 {
     // an earlier, longer view with a key nobody writes any more
     writeColumns(0, {1, 2, 3, 4, 5});
     writeView(0, {"Stale=x"});
+    writeSortKeys(0,
+                  {{"Location_Name", "設置場所", "ASC"}, {"Computer_Name", "コンピュータ名", "DESC"}, {"ipaddress", "IPアドレス", "ASC"}});
     g.ViewNames[0] = u("標準");
     ASSERT_TRUE(loadList());
-    ASSERT_EQ(grid->Cols(), 7);
     list->CurrentMainKey = 5; // what the main window had selected before
 
     open();
@@ -188,21 +188,22 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
     // the user clicks the last column first: the view keeps the table's order
     clickColumn(76);
     clickColumn(8);
-    pick(0, 0); // the first row's key given up
-    pick(1, 8); // コンピュータ名
-    form->Opt_ASC_DESC[3]->click();
+    pick(0, 0); // the first row's key given up; row 1 untouched moves up with its direction
+    pick(2, 9); // ワークグループ
+    form->Opt_ASC_DESC[5]->click();
     ASSERT_TRUE(form->Mnu_Update->isEnabled());
     form->Mnu_Update->trigger();
 
     const QStringList expected =
-        us({"OptDel=0", "SelectNumber=1", "KeyName0=Computer_Name", "KeyName1=", "KeyName2=", "KeyCaption0=コンピュータ名",
-            "KeyCaption1=", "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC", "MSFlexGrit_SelectNum=2",
-            "MSFlexGrit_Select1=8", "MSFlexGrit_Select2=76"});
+        us({"OptDel=0", "SelectNumber=2", "KeyName0=Computer_Name", "KeyName1=Workgroup", "KeyName2=", "KeyCaption0=コンピュータ名",
+            "KeyCaption1=ワークグループ", "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC",
+            "MSFlexGrit_SelectNum=2", "MSFlexGrit_Select1=8", "MSFlexGrit_Select2=76"});
     EXPECT_EQ(iniSection(u("0")), expected) << "no key of the earlier view survives";
     EXPECT_EQ(iniSection(u("Main")), us({"SectionNumber=0", "SectionName0=標準", "SectionName1=", "SectionName2=", "SectionName3=",
                                          "SectionName4=", "SectionName5=", "SectionName6=", "SectionName7="}));
 
     // the main list follows at once, installed computers by name, descending
+    EXPECT_TRUE(g.ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << g.ListSql.toStdString();
     ASSERT_EQ(grid->Cols(), 4);
     EXPECT_EQ(listedKeys(), us({"2", "3", "1"}));
     // the refresh leaves row 1 painted as selected and the main window's key as it was
@@ -211,36 +212,14 @@ TEST_F(FrmSelectView, ApplyingRewritesTheViewsSectionAndRefillsTheMainList)
 
     // the window shows what was saved and is clean again
     EXPECT_FALSE(form->Mnu_Update->isEnabled());
-    EXPECT_EQ(placeholders(), us({"コンピュータ名", " ", " "}));
-    EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 2, 4}));
+    EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
+    EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));
 
     // applying again with nothing changed in the sort rows writes the same section
     form->OptDel[0]->click();
     form->Mnu_Update->trigger();
     EXPECT_EQ(iniSection(u("0")), expected);
     EXPECT_TRUE(dialogs.calls().empty());
-}
-
-TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys)
-{
-    writeSortKeys(0,
-                  {{"Location_Name", "設置場所", "ASC"}, {"Computer_Name", "コンピュータ名", "DESC"}, {"ipaddress", "IPアドレス", "ASC"}});
-    loadList();
-    open();
-    pick(0, 0); // given up
-    // row 1 untouched: its key moves to the front with its direction
-    pick(2, 9); // ワークグループ
-    form->Opt_ASC_DESC[5]->click();
-    form->Mnu_Update->trigger();
-
-    EXPECT_EQ(g.SelectNumber, 2);
-    EXPECT_EQ(iniSection(u("0")).filter(QRegularExpression(QStringLiteral("^Key"))),
-              us({"KeyName0=Computer_Name", "KeyName1=Workgroup", "KeyName2=", "KeyCaption0=コンピュータ名", "KeyCaption1=ワークグループ",
-                  "KeyCaption2=", "KeyASCDESC0=DESC", "KeyASCDESC1=DESC", "KeyASCDESC2=DESC"}));
-    EXPECT_TRUE(g.ListSql.endsWith(u(" ORDER BY Computer_Name DESC,Workgroup DESC;"))) << g.ListSql.toStdString();
-    EXPECT_EQ(placeholders(), us({"コンピュータ名", "ワークグループ", " "}));
-    EXPECT_EQ(checkedDirections(), (std::vector<int>{1, 3, 4}));
-    EXPECT_EQ(listedKeys(), us({"2", "3", "1"}));
 
     // Two columns share the caption "パスワード"; the one picked is the one that stays, through
     // later applies that leave the row alone.
@@ -248,7 +227,6 @@ TEST_F(FrmSelectView, SortKeysMoveUpOverRowsGivenUpAndUntouchedRowsKeepTheirKeys
     form->Mnu_Update->trigger();
     form->OptDel[0]->click();
     form->Mnu_Update->trigger();
-    EXPECT_EQ(g.SelectNumber, 3);
     EXPECT_EQ(g.SortKeyName[2], u("UserPassword"));
     EXPECT_TRUE(iniSection(u("0")).contains(u("KeyName2=UserPassword")));
 }
