@@ -82,21 +82,14 @@ TEST_F(InventoryRead, AJapaneseFileBecomesOneComputerWithAllItsRows)
             QStringLiteral("2005/11/30|Tom’s Mail Checker|1.2|C：￥Tools￥"), QStringLiteral("2005/12/04|Adobe Reader 7.0.5 - 日本語||"),
             // a comma in the version shifts the path into the date
             QStringLiteral("C：￥Program Files￥Hidemaru￥、2005/10/01|秀丸エディタ|4|16")}));
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Device_Category, Device_Name, Device_Provider, Device_Version "
-                                         "FROM tbl_Device_Management ORDER BY rowid")),
-              (QStringList{
-                  QStringLiteral("1|2005/12/04|ディスプレイ アダプタ|Intel(R) 82865G Graphics Controller|Intel Corporation|6.14.10.4299"),
-                  QStringLiteral("1|2005/12/04|ネットワーク アダプタ|Intel(R) PRO/100 VE Network Connection|Intel|7.0.0.0"),
-                  QStringLiteral("1|2001/07/01|ディスク ドライブ|ST340014A|(標準ディスク ドライブ)|5.1.2535.0")}));
+    // the other sections by their counts (the copies are compared with staging's in Staging); the
+    // printers for the column each copy leaves Null
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Device_Management"), QStringLiteral("\"Key\" = 1")), 3);
+    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Environmental"), QStringLiteral("\"Key\" = 1")), 3);
     EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Printer_Name, PrinterPorts_Name, Printer_Driver_Version "
                                          "FROM tbl_Printer_Management ORDER BY rowid")),
               (QStringList{QStringLiteral("1|2005/12/04|EPSON LP-9000C|IP_192.168.0.201|NULL"),
                            QStringLiteral("1|2005/12/04|総務部 カラーレーザー|LPT1：|NULL")}));
-    EXPECT_EQ(ledger.rows(QStringLiteral("SELECT \"Key\", \"Update\", Environmental_Name, Environmental_Path, Coments "
-                                         "FROM tbl_Environmental ORDER BY rowid")),
-              (QStringList{QStringLiteral("1|2005/12/04|TEMP|C：￥DOCUME~1￥yamada￥LOCALS~1￥Temp|NULL"),
-                           QStringLiteral("1|2005/12/04|Path|C：￥WINDOWS￥system32；C：￥WINDOWS|NULL"),
-                           QStringLiteral("1|2005/12/04|OS|Windows_NT|NULL")}));
     // the file stays staged after the read
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 107);
 }

@@ -90,15 +90,6 @@ protected:
     TempLedger ledger;
 };
 
-TEST_F(Check, AGoodLedgerIsOk)
-{
-    ledger.computer(1);
-    ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (1, 'x')"));
-    const AdminRun r = check(ledger.path());
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(r.out, QStringList{QStringLiteral("ok: ") + ledger.path()});
-}
-
 TEST_F(Check, OrphanRowsAndUnknownCodesAreOneLineEachWithTheirCountAndFirstKeys)
 {
     ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code) VALUES (1, 7, 0)"));
