@@ -149,7 +149,6 @@ TEST_F(FrmInport, AnEnglishFileFillsOnlyTheRowsWhoseKeywordsAgreeAndTheOverwrite
     frm_Inport& w = open();
     choose(w, 0);
     openFile(w, QStringLiteral("en_pc02.csv"));
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_ReadCsv")), 97) << "staged";
     ui::FlexGrid& grid = *w.MSFlexGrid1;
     // the computer's name and the memory have no Japanese keyword in the file
     for (const auto& [row, text] :
