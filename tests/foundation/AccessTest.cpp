@@ -22,7 +22,6 @@ TEST_F(Access, ConnectsAndDisconnectsOnceAndRefusesAFileThatIsNoLedger)
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateOpen);
     EXPECT_TRUE(DisconnectDatabase());
     EXPECT_FALSE(Mdl_gData::HasDbConnection()) << "the connection object is released";
-    EXPECT_FALSE(DisconnectDatabase());
     EXPECT_EQ(Mdl_gData::DbConnection().State(), db::adStateClosed) << "a later use finds a new, unopened object";
     EXPECT_TRUE(dialogs.calls().empty());
 

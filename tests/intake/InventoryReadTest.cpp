@@ -40,12 +40,6 @@ FieldValues JaPc01Pclist()
                    "CPU_EST=0"});
 }
 
-FieldValues JaPc01ComputerList()
-{
-    return Fields({"Location_Code=0", "User_Code=0", "Manufacturer_Code=0", "Model_Code=0", "Asset_Code=0", "Type_Number=PC-MY26XEZ7",
-                   "Sereals_Number=5X0123456", "Update=2005/12/04 10：30：15", "Deleted_Flug=0"});
-}
-
 class InventoryRead : public IntakeFixture {
 protected:
     std::vector<InventoryFileResult> read(const QStringList& names, InventoryLanguage language = InventoryLanguage::Japanese)
@@ -72,7 +66,9 @@ TEST_F(InventoryRead, AJapaneseFileBecomesOneComputerWithAllItsRows)
     EXPECT_EQ(Mdl_gData::g.LastReadMainKey, 1);
 
     ExpectRow(ledger, QStringLiteral("tbl_Pclist"), 1, JaPc01Pclist());
-    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1, JaPc01ComputerList());
+    ExpectRow(ledger, QStringLiteral("tbl_Computer_List"), 1,
+              Fields({"Location_Code=0", "User_Code=0", "Manufacturer_Code=0", "Model_Code=0", "Asset_Code=0", "Type_Number=PC-MY26XEZ7",
+                      "Sereals_Number=5X0123456", "Update=2005/12/04 10：30：15", "Deleted_Flug=0"}));
     EXPECT_EQ(
         applications(1),
         (QStringList{
