@@ -145,7 +145,6 @@ TEST_F(FrmSelectView, OpensOnTheCurrentViewAndNamesIt)
     ASSERT_EQ(f.Lst_Select->count(), 76);
     EXPECT_EQ(selectedColumns(), (std::set<int>{3, 8, 76}));
     EXPECT_TRUE(f.OptDel[1]->isChecked());
-    EXPECT_FALSE(f.OptDel[0]->isChecked());
 
     // the combos are empty until opened, showing the stored keys' captions
     EXPECT_EQ(placeholders(), (QStringList{u("コンピュータ名"), u("IPアドレス"), QString()}));

@@ -27,7 +27,6 @@ TEST_F(ListQuery, StatementTailForEachViewShape)
         QString tail;
     } cases[] = {
         {"installed, no sort: no ORDER BY, still the ';'", 0, 0, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 0) ;")},
-        {"retired, one key", 1, 1, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 1)  ORDER BY Location_Name ASC;")},
         {"both, three keys", 2, 3, QStringLiteral(" ORDER BY Location_Name ASC,tbl_Computer_List.Update DESC,Computer_Name ASC;")},
         {"four keys: neither ORDER BY nor ';'", 0, 4, QStringLiteral(" AND (tbl_Computer_List.Deleted_Flug = 0) ")},
     };

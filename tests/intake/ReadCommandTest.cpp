@@ -32,7 +32,6 @@ TEST_F(ReadCommand, ReadsTheFilesInOrderAndReportsEachOne)
     r = Admin({QStringLiteral("read"), QStringLiteral("--english"), QStringLiteral("--ledger"), ledger.path(), en});
     EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
     EXPECT_EQ(r.out, (QStringList{en + QStringLiteral(": MainKey 4"), QStringLiteral("1 of 1 files read, 0 refused")}));
-    EXPECT_TRUE(r.err.isEmpty()) << r.err.toStdString();
 
     // what each file makes is the read's own business (InventoryRead): here, that the command
     // reads each in its language, and makes the unreadable one from the staged rows
