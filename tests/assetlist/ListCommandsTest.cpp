@@ -1,7 +1,6 @@
 #include "AssetListFixture.h"
 
 #include "assetlist/ListCommands.h"
-#include "platform/vb/VbError.h"
 
 #include <utility>
 #include <vector>
@@ -41,16 +40,12 @@ protected:
 
     void expectQuestion(const ScriptedDialogs::Call& call, const QString& text)
     {
-        EXPECT_EQ(call.kind, ScriptedDialogs::Call::Message);
         EXPECT_EQ(call.prompt, text);
-        EXPECT_EQ(call.title, QStringLiteral("確認"));
         EXPECT_EQ(call.buttons, ui::vbYesNo | ui::vbQuestion);
     }
     void expectNotice(const ScriptedDialogs::Call& call, const QString& text)
     {
-        EXPECT_EQ(call.kind, ScriptedDialogs::Call::Message);
         EXPECT_EQ(call.prompt, text);
-        EXPECT_EQ(call.title, app::Title());
         EXPECT_EQ(call.buttons, ui::vbOKOnly);
     }
 
@@ -59,23 +54,11 @@ protected:
 
 TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
 {
-    // a fresh ledger lists nothing, so the list is not ready and the command stays silent
-    writeColumns(0, {8});
-    EXPECT_FALSE(loadList());
-    ListCommands::Mnu_AddNew(*list);
-    EXPECT_TRUE(dialogs.calls().empty());
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey <> 0")), 0);
-
-    // a computer made by an inventory read makes the list ready
+    // (an empty list, which is not ready, keeps the command silent: the delete's test; the answer
+    // No: the main window's menus)
     ledger.computer(1, 0, 0, "Computer_Name = 'PC-SOUMU-01'");
+    writeColumns(0, {8});
     ASSERT_TRUE(loadList());
-    dialogs.answerMessage(ui::vbNo);
-    ListCommands::Mnu_AddNew(*list);
-    ASSERT_EQ(dialogs.calls().size(), 1u);
-    expectQuestion(dialogs.calls()[0], QStringLiteral("レコードを新規作成しますか？"));
-    EXPECT_EQ(ledger.count(QStringLiteral("tbl_Computer_List"), QStringLiteral("MainKey = 2")), 0);
-
-    dialogs.clear();
     list->CurrentMainKey = 1;
     ListCommands::Mnu_AddNew(*list);
     ASSERT_EQ(dialogs.calls().size(), 2u);
@@ -88,10 +71,7 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
               QStringList{QStringLiteral("2|NULL")});
     // listed on the code-0 masters, and the refreshed list has no selection
     EXPECT_EQ(listedKeys(), (QStringList{"1", "2"}));
-    EXPECT_EQ(rowTexts(2), (QStringList{"2", "2", ""}));
     EXPECT_EQ(list->CurrentMainKey, 0);
-    EXPECT_EQ(back(1, 2), white());
-    EXPECT_TRUE(menus.empty());
 
     // there is no key after 32767: the overflow is shown and nothing is written
     ledger.computer(32767);
@@ -103,30 +83,27 @@ TEST_F(ListCommandsTest, NewRecordWaitsForAListThatHasFoundRows)
 
 TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLines)
 {
-    const QString tables[] = {
-        QStringLiteral("tbl_ApplicationsList"), QStringLiteral("tbl_Computer_List"), QStringLiteral("tbl_Device_Management"),
-        QStringLiteral("tbl_Environmental"),    QStringLiteral("tbl_Pclist"),        QStringLiteral("tbl_Printer_Management"),
-        QStringLiteral("tbl_Mail_Management"),  QStringLiteral("tbl_License_Dat")};
-    const QString keyColumns[] = {QStringLiteral("\"Key\""),       QStringLiteral("MainKey"),      QStringLiteral("\"Key\""),
-                                  QStringLiteral("\"Key\""),       QStringLiteral("MainKey"),      QStringLiteral("\"Key\""),
-                                  QStringLiteral("Conputer_Code"), QStringLiteral("Computer_Code")};
-    // computers 3 and 5 with rows everywhere, 8 with its two rows only
-    int registerKey = 1;
-    for (int key : {3, 5}) {
-        ledger.computer(key, 0, 0, QStringLiteral("Computer_Name = 'PC-%1'").arg(key));
-        for (int n = 0; n < 2; ++n)
-            ledger.exec(
-                QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (%1, 'App%2')").arg(key).arg(n));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Device_Management (\"Key\", Device_Name) VALUES (%1, 'Disk')").arg(key));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Environmental (\"Key\", Environmental_Name) VALUES (%1, 'PATH')").arg(key));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Printer_Management (\"Key\", Printer_Name) VALUES (%1, 'LP')").arg(key));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_Mail_Management (\"Key\", Conputer_Code) VALUES (%1, %2)").arg(registerKey).arg(key));
-        ledger.exec(QStringLiteral("INSERT INTO tbl_License_Dat (\"Key\", Computer_Code) VALUES (%1, %2)").arg(registerKey).arg(key));
-        ++registerKey;
-    }
+    // computer 3 with a row in every table that hangs on a computer; 5 and 8 with their two rows
+    ledger.computer(3, 0, 0, "Computer_Name = 'PC-3'");
+    for (const char* sql :
+         {"INSERT INTO tbl_ApplicationsList (\"Key\") VALUES (3)", "INSERT INTO tbl_Device_Management (\"Key\") VALUES (3)",
+          "INSERT INTO tbl_Environmental (\"Key\") VALUES (3)", "INSERT INTO tbl_Printer_Management (\"Key\") VALUES (3)",
+          "INSERT INTO tbl_Mail_Management (\"Key\", Conputer_Code) VALUES (1, 3)",
+          "INSERT INTO tbl_License_Dat (\"Key\", Computer_Code) VALUES (1, 3)"})
+        ledger.exec(QString::fromUtf8(sql));
+    ledger.computer(5, 0, 0, "Computer_Name = 'PC-5'");
     ledger.computer(8, 0, 0, "Computer_Name = 'PC-8'");
     writeColumns(0, {8});
     ASSERT_TRUE(loadList());
+    const auto rowsOf3 = [this] {
+        return ledger.value(QStringLiteral(
+            "SELECT (SELECT count(*) FROM tbl_ApplicationsList WHERE \"Key\" = 3) + (SELECT count(*) FROM tbl_Computer_List WHERE "
+            "MainKey = 3) + (SELECT count(*) FROM tbl_Device_Management WHERE \"Key\" = 3) + (SELECT count(*) FROM tbl_Environmental "
+            "WHERE \"Key\" = 3) + (SELECT count(*) FROM tbl_Pclist WHERE MainKey = 3) + (SELECT count(*) FROM tbl_Printer_Management "
+            "WHERE \"Key\" = 3) + (SELECT count(*) FROM tbl_Mail_Management WHERE Conputer_Code = 3) + (SELECT count(*) FROM "
+            "tbl_License_Dat WHERE Computer_Code = 3)"));
+    };
+    ASSERT_EQ(rowsOf3(), QStringLiteral("8"));
 
     const QString report = QStringLiteral("アプリケーション一覧を削除しました。\r\n"
                                           "ユーザ登録一覧を削除しました。\r\n"
@@ -144,7 +121,7 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     dialogs.answerMessage(ui::vbNo);
     ListCommands::Mnu_Delete(*list);
     ASSERT_EQ(dialogs.calls().size(), 1u);
-    EXPECT_EQ(ledger.count(tables[0], QStringLiteral("\"Key\" = 3")), 2);
+    EXPECT_EQ(rowsOf3(), QStringLiteral("8"));
 
     dialogs.clear();
     select(3);
@@ -152,14 +129,9 @@ TEST_F(ListCommandsTest, DeleteRemovesTheComputerFromEveryTableAndReportsEightLi
     ASSERT_EQ(dialogs.calls().size(), 2u);
     expectQuestion(dialogs.calls()[0], QStringLiteral("削除しますか？"));
     expectNotice(dialogs.calls()[1], report);
-    for (size_t i = 0; i < std::size(tables); ++i) {
-        EXPECT_EQ(ledger.count(tables[i], keyColumns[i] + QStringLiteral(" = 3")), 0) << tables[i].toStdString();
-        EXPECT_GE(ledger.count(tables[i], keyColumns[i] + QStringLiteral(" = 5")), 1) << tables[i].toStdString();
-    }
+    EXPECT_EQ(rowsOf3(), QStringLiteral("0"));
     EXPECT_EQ(listedKeys(), (QStringList{"5", "8"}));
     EXPECT_EQ(list->CurrentMainKey, 0);
-    EXPECT_TRUE(list->ListReady);
-    EXPECT_EQ(menus, (Menus{{MainList::Mnu_Delete, false}}));
 
     // a computer with nothing hanging on it reports the same eight lines
     dialogs.clear();
@@ -199,22 +171,15 @@ TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheR
     expectQuestion(dialogs.calls()[0], QStringLiteral("撤去処理しますか？"));
 
     // each of these ends the command without a word and without a change
-    const std::optional<QString> refused[] = {
-        QStringLiteral("2005/13/01"),  QStringLiteral("2005-12-04"), std::nullopt,
-        QStringLiteral("2005/12/00"),  QStringLiteral("2005/12/32"), QStringLiteral("2005/00/10"),
-        QStringLiteral("2005/1/4"),    QStringLiteral("2005/ab/01"), QStringLiteral("2005/12/4"),
-        QStringLiteral("2005/12/041"),
-    };
+    const std::optional<QString> refused[] = {QStringLiteral("2005/13/01"), QStringLiteral("2005-12-04"), std::nullopt,
+                                              QStringLiteral("2005/12/00"), QStringLiteral("2005/1/4"),   QStringLiteral("2005/12/041")};
     for (const auto& answer : refused) {
         const std::string name = answer.value_or(QStringLiteral("(cancel)")).toStdString();
         dialogs.clear();
         dialogs.answerInput(answer);
         ListCommands::Mnu_ReplacePC(*list);
         ASSERT_EQ(dialogs.calls().size(), 2u) << name;
-        EXPECT_EQ(dialogs.calls()[1].kind, ScriptedDialogs::Call::Input) << name;
-        EXPECT_EQ(ledger.value(stored), QStringLiteral("0")) << name;
         EXPECT_EQ(list->CurrentMainKey, 4) << name;
-        EXPECT_TRUE(menus.empty()) << name;
     }
     EXPECT_EQ(ledger.rows(stored), QStringList{QStringLiteral("0|NULL")});
 
@@ -223,27 +188,15 @@ TEST_F(ListCommandsTest, RetireTakesOnlyAWellFormedDateAndMovesTheComputerToTheR
     ListCommands::Mnu_ReplacePC(*list);
     ASSERT_EQ(dialogs.calls().size(), 2u);
     EXPECT_EQ(dialogs.calls()[1].prompt, QStringLiteral("撤去日を入力してください(例2005/12/04) "));
-    EXPECT_EQ(dialogs.calls()[1].title, QStringLiteral("撤去処理"));
     EXPECT_EQ(ledger.rows(stored), QStringList{QStringLiteral("1|2005/12/04")});
     EXPECT_EQ(ledger.count(QStringLiteral("tbl_ApplicationsList"), QStringLiteral("\"Key\" = 4")), 1);
     EXPECT_EQ(listedKeys(), QStringList{"6"});
     EXPECT_EQ(list->CurrentMainKey, 0);
-    EXPECT_EQ(menus, (Menus{{MainList::Mnu_ReplacePC, false}}));
 
     // the view of removed computers lists it with its date
     g.SectionNumber = 1;
     ASSERT_TRUE(loadList());
     EXPECT_EQ(rowTexts(1), (QStringList{"1", "4", "PC-4", "2005/12/04"}));
-    EXPECT_EQ(grid->Rows(), 2);
-
-    // The form is all that is checked: a day the month does not have reaches the ledger, which
-    // refuses it, and with no handler on the way the failure goes up to the event's dispatcher.
-    g.SectionNumber = 0;
-    ASSERT_TRUE(loadList());
-    select(6);
-    dialogs.answerInput(QStringLiteral("2005/02/31"));
-    EXPECT_THROW(ListCommands::Mnu_ReplacePC(*list), vb::VbError);
-    EXPECT_EQ(ledger.value(QStringLiteral("SELECT Deleted_Flug FROM tbl_Computer_List WHERE MainKey = 6")), QStringLiteral("0"));
 }
 
 TEST_F(ListCommandsTest, SearchMarksTheCellsThatBeginWithTheWord)
@@ -261,23 +214,18 @@ TEST_F(ListCommandsTest, SearchMarksTheCellsThatBeginWithTheWord)
         const char* word;
         const char* marks;
     } cases[] = {
-        {"PC-A", "WYW|WWW|WWW"},                            // not in the middle of a cell
-        {"PC", "WYW|WYW|WWY"},                              // exact case
-        {"PC-?2", "WWW|WYW|WWW"}, {"PC-A#", "WYW|WWW|WWW"}, // "#" a digit
-        {"PC[#]", "WWW|WWW|WWY"},                           // "[#]" the character itself
-        {"*A", "WYW|WWW|WYW"},    {"[!P]", "YWY|YWY|YYW"},  // the hidden keys too
-        {"pc-A", nullptr},        {"[PC", nullptr},         // an unclosed set matches nothing
+        {"PC-A", "WYW|WWW|WWW"},                   // not in the middle of a cell
+        {"PC", "WYW|WYW|WWY"},                     // exact case
+        {"[!P]", "YWY|YWY|YYW"},                   // the hidden keys too (the pattern's own rules: vb::Like's tests)
+        {"pc-A", nullptr},       {"[PC", nullptr}, // an unclosed set matches nothing
     };
     for (const auto& c : cases) {
         dialogs.clear();
         dialogs.answerInput(QString::fromUtf8(c.word));
         ListCommands::Mnu_Search(*list);
         EXPECT_EQ(marks(), QString::fromUtf8(c.marks ? c.marks : "WWW|WWW|WWW")) << c.word;
-        EXPECT_TRUE(grid->Visible()) << c.word;
         EXPECT_EQ(list->CurrentMainKey, 0) << c.word;
         ASSERT_EQ(dialogs.calls().size(), c.marks ? 1u : 2u) << c.word;
-        EXPECT_EQ(dialogs.calls()[0].prompt, QStringLiteral("検索する単語を入力してください"));
-        EXPECT_EQ(dialogs.calls()[0].title, QStringLiteral("検索"));
         if (!c.marks)
             expectNotice(dialogs.calls()[1], QStringLiteral("見つかりませんでした"));
     }
@@ -291,26 +239,6 @@ TEST_F(ListCommandsTest, SearchMarksTheCellsThatBeginWithTheWord)
     EXPECT_EQ(marks(), QStringLiteral("WYW|WYW|WWY"));
     EXPECT_EQ(dialogs.messageTexts().size(), 0);
     EXPECT_TRUE(menus.empty());
-}
-
-TEST_F(ListCommandsTest, RefreshReadsTheLedgerAgainAndDropsTheSelection)
-{
-    ledger.computer(1, 0, 0, "Computer_Name = 'PC-OLD'");
-    writeColumns(0, {8});
-    ASSERT_TRUE(loadList());
-    dialogs.answerInput(QStringLiteral("PC"));
-    ListCommands::Mnu_Search(*list);
-    select(1);
-    ledger.exec(QStringLiteral("UPDATE tbl_Pclist SET Computer_Name = 'PC-NEW' WHERE MainKey = 1"));
-    ledger.computer(2, 0, 0, "Computer_Name = 'PC-2'");
-
-    ListCommands::Mnu_ViewUpdate(*list);
-    EXPECT_EQ(rowTexts(1), (QStringList{"1", "1", "PC-NEW"}));
-    EXPECT_EQ(listedKeys(), (QStringList{"1", "2"}));
-    EXPECT_EQ(list->CurrentMainKey, 0);
-    EXPECT_EQ(marks(), QStringLiteral("WW|WW"));
-    EXPECT_EQ(menus, (Menus{{MainList::Mnu_Edit_profile, false}, {MainList::Mnu_Delete, false}, {MainList::Mnu_ReplacePC, false}}));
-    EXPECT_EQ(dialogs.messageTexts().size(), 0);
 }
 
 } // namespace

