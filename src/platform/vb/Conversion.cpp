@@ -398,69 +398,6 @@ QDateTime CDate(const Variant& v)
     }
 }
 
-double Val(const QString& s)
-{
-    // Val skips blanks, tabs and line feeds anywhere, and stops at the first other character
-    // that cannot continue a number.
-    QString compact;
-    compact.reserve(s.size());
-    for (QChar c : s)
-        if (c != QLatin1Char(' ') && c != QLatin1Char('\t') && c != QLatin1Char('\n'))
-            compact.append(c);
-    qsizetype i = 0;
-    const qsizetype n = compact.size();
-    if (n >= 2 && compact[0] == QLatin1Char('&')) {
-        const QChar k = compact[1].toUpper();
-        const int base = k == QLatin1Char('H') ? 16 : k == QLatin1Char('O') ? 8 : 0;
-        if (base) {
-            qsizetype j = 2;
-            while (j < n && QStringLiteral("0123456789ABCDEF").left(base).contains(compact[j].toUpper()))
-                ++j;
-            if (j == 2)
-                return 0;
-            // the digits read as a literal of that base would: "&HFFFF" is the Integer -1
-            if (auto value = radixValue(QStringView(compact).mid(2, j - 2), base))
-                return *value;
-            throw VbError::Overflow();
-        }
-    }
-    QByteArray buf;
-    if (i < n && (compact[i] == QLatin1Char('+') || compact[i] == QLatin1Char('-')))
-        buf.append(char(compact[i++].unicode()));
-    bool digits = false, point = false;
-    for (; i < n; ++i) {
-        const ushort c = compact[i].unicode();
-        if (c >= '0' && c <= '9') {
-            buf.append(char(c));
-            digits = true;
-        } else if (c == '.' && !point) {
-            buf.append('.');
-            point = true;
-        } else if ((c == 'E' || c == 'e' || c == 'D' || c == 'd') && digits) {
-            QByteArray exp("e");
-            qsizetype j = i + 1;
-            if (j < n && (compact[j] == QLatin1Char('+') || compact[j] == QLatin1Char('-')))
-                exp.append(char(compact[j++].unicode()));
-            bool expDigits = false;
-            while (j < n && compact[j].unicode() >= '0' && compact[j].unicode() <= '9') {
-                exp.append(char(compact[j++].unicode()));
-                expDigits = true;
-            }
-            if (expDigits)
-                buf.append(exp);
-            break;
-        } else {
-            break;
-        }
-    }
-    if (!digits)
-        return 0;
-    const double d = buf.toDouble();
-    if (!std::isfinite(d))
-        throw VbError::Overflow();
-    return d;
-}
-
 QString Trim(const QString& s)
 {
     qsizetype from = 0, to = s.size();

@@ -18,11 +18,6 @@ double CDbl(const Variant& v);
 QString CStr(const Variant& v);
 QDateTime CDate(const Variant& v);
 
-// Val: the leading number of a text, blanks, tabs and line feeds inside skipped, 0 when there is
-// none. It raises 6 (overflow) for a number too large for a Double and for &H / &O digits past
-// 32 bits.
-double Val(const QString& s);
-
 // Trim removes blanks: character 32 and, under the Japanese locale, the ideographic space
 // U+3000. Tabs and line ends stay.
 QString Trim(const QString& s);
